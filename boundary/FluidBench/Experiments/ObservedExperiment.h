@@ -1,0 +1,35 @@
+// An experiment that holds measurements in place of computed stages.
+#pragma once
+
+#include "FluidBench/Experiments/Stage.h"
+#include "Visibility.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace Orv::FluidBench::Experiments {
+
+/// Kind of an experiment, as far as the I/O library names it.
+enum class ExperimentType : std::int32_t { DownholeFluidAnalysis = 7 };
+
+/// A value that owns its stages.
+class FLUIDBENCH_BOUNDARY_API ObservedExperiment {
+public:
+    /// An experiment without stages.
+    explicit ObservedExperiment(ExperimentType type);
+    ObservedExperiment(const ObservedExperiment&);
+    ObservedExperiment(ObservedExperiment&&) noexcept;
+    ObservedExperiment& operator=(const ObservedExperiment&);
+    ObservedExperiment& operator=(ObservedExperiment&&) noexcept;
+    virtual ~ObservedExperiment();
+
+    std::vector<Stage> Stages;
+
+    // The stand-in's own operation.
+    ExperimentType GetType() const noexcept { return type_; }
+
+private:
+    ExperimentType type_;
+};
+
+} // namespace Orv::FluidBench::Experiments

@@ -1,0 +1,26 @@
+# A room is a folder of sources with the include directories that it may use, and no others: an
+# include that the architecture forbids doesn't compile. What lies in the folder belongs to the room.
+
+add_library(FluidBenchBuildOptions INTERFACE)
+target_compile_options(FluidBenchBuildOptions INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast
+    -Woverloaded-virtual -Wcast-qual -Wformat=2
+    $<$<BOOL:${FLUIDBENCH_WARNINGS_AS_ERRORS}>:-Werror>)
+if(FLUIDBENCH_SANITIZE)
+    target_compile_options(FluidBenchBuildOptions INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(FluidBenchBuildOptions INTERFACE -fsanitize=address,undefined)
+endif()
+
+# fluidbench_room(NAME FOLDER [MAY_INCLUDE room_or_directory...])
+#
+# Makes the object library NAME from every source in FOLDER. MAY_INCLUDE names other targets, whose
+# interface include directories become visible.
+function(fluidbench_room name folder)
+    cmake_parse_arguments(ROOM "" "" "MAY_INCLUDE" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp)
+    add_library(${name} OBJECT ${sources})
+    target_include_directories(${name} PUBLIC ${folder})
+    target_link_libraries(${name} PRIVATE FluidBenchBuildOptions)
+    target_link_libraries(${name} PUBLIC ${ROOM_MAY_INCLUDE})
+endfunction()

@@ -1,0 +1,289 @@
+#include "NumberText.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cmath>
+#include <iterator>
+#include <limits>
+
+namespace Orv::FluidBench::Impl::IO {
+
+namespace {
+
+using Flags = std::ios_base::fmtflags;
+
+constexpr int defaultPrecision = 6;
+constexpr int longestInteger = 309; // digits before the point of the largest double
+constexpr std::size_t usualLength = 128;
+
+// The characters of a number in a buffer on the stack, or on the heap when they don't fit.
+class Characters {
+public:
+    Characters(double value, NumberFormat format) {
+        const int precision = format.precision < 0 ? defaultPrecision : format.precision;
+        Fill(static_cast<std::size_t>(precision) + longestInteger + 16,
+             [&](char* begin, char* end) {
+                 return std::to_chars(begin, end, value, format.notation, precision);
+             });
+    }
+    explicit Characters(std::uint64_t value) {
+        Fill(usualLength, [&](char* begin, char* end) { return std::to_chars(begin, end, value); });
+    }
+
+    std::string_view View() const noexcept { return view_; }
+
+private:
+    template <typename ToChars>
+    void Fill(std::size_t enough, ToChars toChars) {
+        auto result = toChars(stack_.data(), stack_.data() + stack_.size());
+        char* begin = stack_.data();
+        if (result.ec != std::errc()) {
+            heap_.resize(enough);
+            begin = heap_.data();
+            result = toChars(begin, begin + heap_.size());
+        }
+        view_ = std::string_view(begin, static_cast<std::size_t>(result.ptr - begin));
+    }
+
+    std::array<char, usualLength> stack_;
+    std::string heap_;
+    std::string_view view_;
+};
+
+// printf's '#' flag in general notation: the precision counts digits and none of them is dropped.
+NumberFormat KeepTrailingZeros(double value, NumberFormat format) {
+    const int digits = std::max(format.precision < 0 ? defaultPrecision : format.precision, 1);
+    const Characters scientific(value, {std::chars_format::scientific, digits - 1});
+    const std::string_view text = scientific.View();
+    const std::size_t letter = text.find('e');
+    int exponent = 0;
+    const std::size_t first = letter + (text[letter + 1] == '+' ? 2 : 1);
+    std::from_chars(text.data() + first, text.data() + text.size(), exponent);
+    if (exponent < -4 || exponent >= digits) {
+        return {std::chars_format::scientific, digits - 1};
+    }
+    return {std::chars_format::fixed, digits - 1 - exponent};
+}
+
+void InsertPoint(std::string& number, char exponentLetter) {
+    if (number.find('.') == std::string::npos) {
+        number.insert(std::min(number.find(exponentLetter), number.size()), ".");
+    }
+}
+
+// The rarer flags of a stream: all of them change the text of the number itself.
+std::string DressedNumber(double value, NumberFormat format, Flags flags) {
+    const bool isHexadecimal = (flags & std::ios_base::floatfield) == std::ios_base::floatfield;
+    const bool showPoint = (flags & std::ios_base::showpoint) != 0 && std::isfinite(value);
+    std::string number;
+    if (isHexadecimal && std::isfinite(value)) {
+        std::array<char, usualLength> digits;
+        const auto end = std::to_chars(digits.data(), digits.data() + digits.size(),
+                                       std::abs(value), std::chars_format::hex)
+                             .ptr;
+        number = (std::signbit(value) ? "-0x" : "0x") + std::string(digits.data(), end);
+    } else {
+        if (showPoint && format.notation == std::chars_format::general) {
+            format = KeepTrailingZeros(value, format);
+        }
+        number = Characters(value, format).View();
+    }
+    if (showPoint) {
+        InsertPoint(number, isHexadecimal ? 'p' : 'e');
+    }
+    if ((flags & std::ios_base::showpos) != 0 && !number.starts_with('-')) {
+        number.insert(0, "+");
+    }
+    if ((flags & std::ios_base::uppercase) != 0) {
+        std::ranges::transform(number, number.begin(),
+                               [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+    }
+    return number;
+}
+
+// Where the fill goes with internal adjustment: behind a sign, or else behind "0x".
+std::size_t PrefixLength(std::string_view number) {
+    if (number.starts_with('-') || number.starts_with('+')) {
+        return 1;
+    }
+    return number.starts_with("0x") || number.starts_with("0X") ? 2 : 0;
+}
+
+void WritePadded(std::ostream& out, std::string_view number) {
+    const auto width = static_cast<std::size_t>(std::max<std::streamsize>(out.width(0), 0));
+    if (width <= number.size()) {
+        out.write(number.data(), static_cast<std::streamsize>(number.size()));
+        return;
+    }
+    std::string field(number);
+    const Flags adjustment = out.flags() & std::ios_base::adjustfield;
+    const std::size_t where = adjustment == std::ios_base::left       ? number.size()
+                              : adjustment == std::ios_base::internal ? PrefixLength(number)
+                                                                      : 0;
+    field.insert(where, width - number.size(), out.fill());
+    out.write(field.data(), static_cast<std::streamsize>(field.size()));
+}
+
+constexpr bool IsSpace(char c) noexcept {
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+constexpr bool IsDigit(char c) noexcept {
+    return c >= '0' && c <= '9';
+}
+
+std::string_view SkipSpace(std::string_view text) noexcept {
+    const auto* const first = std::ranges::find_if_not(text, IsSpace);
+    return {first, static_cast<std::size_t>(text.end() - first)};
+}
+
+bool TakeSign(std::string_view& text) noexcept {
+    const bool isNegative = text.starts_with('-');
+    if (isNegative || text.starts_with('+')) {
+        text.remove_prefix(1);
+    }
+    return isNegative;
+}
+
+// A number without its sign, and what stands behind it.
+struct Magnitude {
+    double value = 0.0;
+    bool isThere = false;
+    bool isTooLarge = false;
+    std::string_view rest;
+};
+
+// Tells an overflow from an underflow: where the first digit other than zero stands, counted from
+// the point and moved by the exponent.
+bool IsHuge(std::string_view number) noexcept {
+    constexpr std::int64_t limit = std::numeric_limits<std::int32_t>::max();
+    std::int64_t place = 0; // digits between the first one that counts and the point
+    bool counts = false;
+    bool behindPoint = false;
+    std::size_t position = 0;
+    for (; position < number.size(); ++position) {
+        const char c = number[position];
+        if (c == '.') {
+            behindPoint = true;
+        } else if (!IsDigit(c)) {
+            break;
+        } else {
+            counts = counts || c != '0';
+            place += behindPoint ? (counts ? 0 : -1) : (counts ? 1 : 0);
+        }
+    }
+    std::int64_t exponent = 0;
+    if (position < number.size()) {
+        std::string_view digits = number.substr(position + 1);
+        const bool isNegative = TakeSign(digits);
+        for (const char c : digits) {
+            exponent = std::min(exponent * 10 + (c - '0'), limit);
+        }
+        exponent = isNegative ? -exponent : exponent;
+    }
+    return place + exponent > 0;
+}
+
+Magnitude ReadMagnitude(std::string_view text, std::chars_format notation) noexcept {
+    Magnitude number;
+    const auto [end, error] =
+        std::from_chars(text.data(), text.data() + text.size(), number.value, notation);
+    if (error == std::errc::invalid_argument) {
+        return number;
+    }
+    number.isThere = true;
+    const auto length = static_cast<std::size_t>(end - text.data());
+    number.rest = text.substr(length);
+    if (error == std::errc::result_out_of_range) {
+        number.isTooLarge = IsHuge(text.substr(0, length));
+        number.value = number.isTooLarge ? std::numeric_limits<double>::infinity() : 0.0;
+    }
+    return number;
+}
+
+Magnitude ReadDecimal(std::string_view text) noexcept {
+    const bool isDecimal = !text.empty() && (IsDigit(text.front()) || text.front() == '.');
+    return isDecimal ? ReadMagnitude(text, std::chars_format::general) : Magnitude();
+}
+
+bool HasHexadecimalPrefix(std::string_view text) noexcept {
+    return text.starts_with("0x") || text.starts_with("0X");
+}
+
+Magnitude ReadAsAtof(std::string_view text) noexcept {
+    if (HasHexadecimalPrefix(text)) {
+        const std::string_view digits = text.substr(2);
+        const bool isNumber =
+            !digits.empty() && (std::isxdigit(static_cast<unsigned char>(digits.front())) != 0 ||
+                                digits.front() == '.');
+        if (isNumber) {
+            return ReadMagnitude(digits, std::chars_format::hex);
+        }
+    }
+    const bool hasSecondSign = text.starts_with('-') || text.starts_with('+');
+    return hasSecondSign ? Magnitude() : ReadMagnitude(text, std::chars_format::general);
+}
+
+} // namespace
+
+void AppendNumber(std::string& text, double value, NumberFormat format) {
+    text += Characters(value, format).View();
+}
+
+void AppendNumber(std::string& text, std::uint64_t value) {
+    text += Characters(value).View();
+}
+
+NumberFormat FormatOf(const std::ostream& out) {
+    const Flags notation = out.flags() & std::ios_base::floatfield;
+    return {notation == std::ios_base::fixed        ? std::chars_format::fixed
+            : notation == std::ios_base::scientific ? std::chars_format::scientific
+                                                    : std::chars_format::general,
+            static_cast<int>(out.precision())};
+}
+
+void WriteNumber(std::ostream& out, double value) {
+    constexpr Flags dressing =
+        std::ios_base::showpoint | std::ios_base::showpos | std::ios_base::uppercase;
+    const Flags flags = out.flags();
+    const bool isHexadecimal = (flags & std::ios_base::floatfield) == std::ios_base::floatfield;
+    if ((flags & dressing) == 0 && !isHexadecimal) {
+        WritePadded(out, Characters(value, FormatOf(out)).View());
+    } else {
+        WritePadded(out, DressedNumber(value, FormatOf(out), flags));
+    }
+}
+
+void WriteNumber(std::ostream& out, std::uint64_t value) {
+    WritePadded(out, Characters(value).View());
+}
+
+double ParseAsAtof(std::string_view text) noexcept {
+    text = SkipSpace(text);
+    const bool isNegative = TakeSign(text);
+    const double value = ReadAsAtof(text).value;
+    return isNegative ? -value : value;
+}
+
+double ParseLeadingDecimal(std::string_view text) noexcept {
+    text = SkipSpace(text);
+    const bool isNegative = TakeSign(text);
+    const double value = ReadDecimal(text).value;
+    return isNegative ? -value : value;
+}
+
+std::optional<double> ExtractDecimal(std::string_view text) noexcept {
+    text = SkipSpace(text);
+    const bool isNegative = TakeSign(text);
+    const Magnitude number = ReadDecimal(text);
+    const bool exponentLacksDigits = number.rest.starts_with('e') || number.rest.starts_with('E');
+    // "1e5e" is a whole number and a letter; "1e" is an exponent that never comes.
+    const auto taken = text.substr(0, text.size() - number.rest.size());
+    const bool hasExponent = taken.find_first_of("eE") != std::string_view::npos;
+    if (!number.isThere || number.isTooLarge || (exponentLacksDigits && !hasExponent)) {
+        return std::nullopt;
+    }
+    return isNegative ? -number.value : number.value;
+}
+
+} // namespace Orv::FluidBench::Impl::IO

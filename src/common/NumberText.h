@@ -1,0 +1,48 @@
+// Number text in both directions, the only place of the library that formats or parses numbers.
+// Nothing here asks any locale: the decimal separator is a point and digits are never grouped.
+#pragma once
+
+#include <charconv>
+#include <cstdint>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+namespace Orv::FluidBench::Impl::IO {
+
+/// How a floating-point number is written: `general` is printf's %.*g, `fixed` its %.*f and
+/// `scientific` its %.*e, each with `precision` as the asterisk.
+struct NumberFormat {
+    std::chars_format notation = std::chars_format::general;
+    int precision = 6;
+};
+
+/// Appends the number to `text`.
+void AppendNumber(std::string& text, double value, NumberFormat format);
+void AppendNumber(std::string& text, std::uint64_t value);
+
+/// The notation and precision that the stream has at the moment. A stream set to hexadecimal
+/// notation counts as general.
+NumberFormat FormatOf(const std::ostream& out);
+
+/// Writes the number as `out << value` would in the classic locale, whatever locale is imbued:
+/// notation, precision, sign, point and letter case flags, width, fill and adjustment are the
+/// stream's. Clears the width, as an insertion does.
+void WriteNumber(std::ostream& out, double value);
+void WriteNumber(std::ostream& out, std::uint64_t value);
+
+/// The number that `text` begins with, by the rules of the C library's `atof` in the C locale:
+/// white space ahead is skipped, infinities, not-a-numbers and hexadecimal numbers count, the text
+/// behind the number doesn't matter, and no number is 0.0. What is too large gives an infinity.
+double ParseAsAtof(std::string_view text) noexcept;
+
+/// The same for decimal numbers alone: digits with an optional sign, point and exponent.
+double ParseLeadingDecimal(std::string_view text) noexcept;
+
+/// The number that `stream >> value` would extract in the classic locale from a stream of `text`;
+/// nothing where the extraction would fail: no number, an exponent without digits, a number too
+/// large for a double.
+std::optional<double> ExtractDecimal(std::string_view text) noexcept;
+
+} // namespace Orv::FluidBench::Impl::IO

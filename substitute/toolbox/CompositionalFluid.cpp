@@ -1,0 +1,259 @@
+// The toolbox's fluid: a face of the command object that holds everything.
+#include "FluidBench/Model/CompositionalFluid.h"
+
+#include "CompositionalFluidCommand.h"
+#include "FluidBench/Common/Exceptions.h"
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+#include <utility>
+
+namespace Orv::FluidBench::Impl::Command {
+
+namespace {
+
+std::optional<std::size_t> Look(const std::unordered_map<std::string, std::size_t>& index,
+                                const std::string& name) {
+    const auto found = index.find(name);
+    return found == index.end() ? std::nullopt : std::optional(found->second);
+}
+
+std::size_t PlaceInTriangle(std::size_t first, std::size_t second) noexcept {
+    const auto [column, row] = std::minmax(first, second);
+    return row * (row - 1) / 2 + column;
+}
+
+} // namespace
+
+std::optional<std::size_t> CompositionalFluidCommand::Find(const std::string& componentName) const {
+    return Look(indexOfName_, componentName);
+}
+
+std::optional<std::size_t>
+CompositionalFluidCommand::FindGlobal(const std::string& globalName) const {
+    return Look(indexOfGlobalName_, globalName);
+}
+
+void CompositionalFluidCommand::SetComponent(const Model::FluidComponent& component,
+                                             double fraction) {
+    const std::string& componentName = component.GetName();
+    if (const auto index = Find(componentName)) {
+        components_[*index].component = component;
+        components_[*index].fraction = fraction;
+        return;
+    }
+    const std::size_t index = components_.size();
+    components_.push_back({component, fraction, componentName});
+    indexOfName_.emplace(componentName, index);
+    indexOfGlobalName_.emplace(componentName, index);
+}
+
+void CompositionalFluidCommand::SetGlobalName(std::size_t index, const std::string& globalName) {
+    Entry& entry = components_[index];
+    indexOfGlobalName_.erase(entry.globalName);
+    indexOfGlobalName_[globalName] = index;
+    entry.globalName = globalName;
+}
+
+std::optional<double> CompositionalFluidCommand::Coefficient(std::size_t first,
+                                                             std::size_t second) const noexcept {
+    if (first == second) {
+        return std::nullopt;
+    }
+    const std::size_t place = PlaceInTriangle(first, second);
+    return place < coefficients_.size() ? coefficients_[place] : std::nullopt;
+}
+
+void CompositionalFluidCommand::SetCoefficient(std::size_t first, std::size_t second,
+                                               double value) {
+    const std::size_t place = PlaceInTriangle(first, second);
+    if (place >= coefficients_.size()) {
+        const std::size_t n = components_.size();
+        coefficients_.resize(n * (n - 1) / 2);
+    }
+    coefficients_[place] = value;
+}
+
+} // namespace Orv::FluidBench::Impl::Command
+
+namespace Orv::FluidBench::Model {
+
+using Common::PropertyOutOfRangeException;
+using Common::pvtEnumBICType;
+using Common::pvtEnumEoS;
+using Common::pvtEnumInterfacialTensionMethod;
+using Common::pvtEnumPropertySource;
+using Common::pvtEnumUnitFraction;
+using Common::pvtEnumViscosityMethod;
+using Impl::Command::CompositionalFluidCommand;
+
+namespace {
+
+std::invalid_argument Lacks(const std::string& name) {
+    return std::invalid_argument("The fluid has no component called '" + name + "'");
+}
+
+std::size_t Require(std::optional<std::size_t> index, const std::string& name) {
+    if (!index) {
+        throw Lacks(name);
+    }
+    return *index;
+}
+
+std::optional<double> FindCoefficient(const CompositionalFluidCommand& fluid,
+                                      const std::string& first, const std::string& second) {
+    const auto row = fluid.Find(first);
+    const auto column = fluid.Find(second);
+    return row && column ? fluid.Coefficient(*row, *column) : std::nullopt;
+}
+
+} // namespace
+
+CompositionalFluid::CompositionalFluid(const std::string& name)
+    : command_(std::make_unique<CompositionalFluidCommand>()) {
+    command_->name = name;
+}
+CompositionalFluid::CompositionalFluid(const CompositionalFluid& other)
+    : command_(std::make_unique<CompositionalFluidCommand>(*other.command_)) {}
+CompositionalFluid::CompositionalFluid(CompositionalFluid&&) noexcept = default;
+CompositionalFluid& CompositionalFluid::operator=(const CompositionalFluid& other) {
+    if (this != &other) {
+        command_ = std::make_unique<CompositionalFluidCommand>(*other.command_);
+    }
+    return *this;
+}
+CompositionalFluid& CompositionalFluid::operator=(CompositionalFluid&&) noexcept = default;
+CompositionalFluid::~CompositionalFluid() = default;
+
+void CompositionalFluid::SetEoS(pvtEnumEoS eos) {
+    command_->eos = eos;
+}
+pvtEnumEoS CompositionalFluid::GetEoS() const {
+    return command_->eos;
+}
+
+void CompositionalFluid::SetViscosityCorrelation(pvtEnumViscosityMethod method) {
+    command_->viscosity = method;
+}
+pvtEnumViscosityMethod CompositionalFluid::GetViscosityCorrelation() const {
+    return command_->viscosity;
+}
+
+void CompositionalFluid::SetInterfacialTensionMethod(pvtEnumInterfacialTensionMethod method) {
+    command_->interfacialTension = method;
+}
+pvtEnumInterfacialTensionMethod CompositionalFluid::GetInterfacialTensionMethod() const {
+    return command_->interfacialTension;
+}
+
+void CompositionalFluid::SetComponentFractionType(pvtEnumUnitFraction type) {
+    command_->fractionType = type;
+}
+pvtEnumUnitFraction CompositionalFluid::GetComponentFractionType() const {
+    return command_->fractionType;
+}
+
+void CompositionalFluid::SetComponent(const FluidComponent& component, double fraction) {
+    if (!std::isfinite(fraction) || fraction < 0.0) {
+        throw PropertyOutOfRangeException("The fraction of component '" + component.GetName() +
+                                          "' must be a finite number that isn't negative");
+    }
+    command_->SetComponent(component, fraction);
+}
+
+void CompositionalFluid::SetBIC(const std::string& first, const std::string& second, double value) {
+    const std::size_t row = Require(command_->Find(first), first);
+    const std::size_t column = Require(command_->Find(second), second);
+    if (row == column) {
+        throw std::invalid_argument("Component '" + first +
+                                    "' has no interaction coefficient with itself");
+    }
+    if (!std::isfinite(value)) {
+        throw PropertyOutOfRangeException("The interaction coefficient of '" + first + "' and '" +
+                                          second + "' must be a finite number");
+    }
+    command_->SetCoefficient(row, column, value);
+}
+
+double CompositionalFluid::GetBIC(const std::string& first, const std::string& second,
+                                  pvtEnumBICType) const {
+    return FindCoefficient(*command_, first, second).value_or(0.0);
+}
+
+pvtEnumPropertySource CompositionalFluid::GetBICSource(const std::string& first,
+                                                       const std::string& second,
+                                                       pvtEnumBICType) const {
+    return FindCoefficient(*command_, first, second) ? pvtEnumPropertySource::User
+                                                     : pvtEnumPropertySource::None;
+}
+
+const std::vector<FluidComponent> CompositionalFluid::GetOrderedComponents() const {
+    std::vector<FluidComponent> components;
+    components.reserve(command_->Components().size());
+    for (const auto& entry : command_->Components()) {
+        components.push_back(entry.component);
+    }
+    return components;
+}
+
+std::vector<std::string> CompositionalFluid::ListComponents() const {
+    std::vector<std::string> names;
+    names.reserve(command_->Components().size());
+    for (const auto& entry : command_->Components()) {
+        names.push_back(entry.component.GetName());
+    }
+    return names;
+}
+
+int CompositionalFluid::NumberOfComponents() const {
+    return static_cast<int>(command_->Components().size());
+}
+
+double CompositionalFluid::GetComponentFraction(const std::string& name) const {
+    return command_->Components()[Require(command_->Find(name), name)].fraction;
+}
+
+std::vector<std::string> CompositionalFluid::ListComponentsGlobalNames() const {
+    std::vector<std::string> names;
+    names.reserve(command_->Components().size());
+    for (const auto& entry : command_->Components()) {
+        names.push_back(entry.globalName);
+    }
+    return names;
+}
+
+bool CompositionalFluid::HasComponentWithGlobalName(const std::string& globalName) const {
+    return command_->FindGlobal(globalName).has_value();
+}
+
+double CompositionalFluid::GetComponentFractionByGlobalName(const std::string& globalName) const {
+    return command_->Components()[Require(command_->FindGlobal(globalName), globalName)].fraction;
+}
+
+bool CompositionalFluid::GetUseTemperatureDependentVolumeShift() const {
+    return command_->temperatureDependentVolumeShift;
+}
+void CompositionalFluid::SetUseTemperatureDependentVolumeShift(bool use) {
+    command_->temperatureDependentVolumeShift = use;
+}
+
+const std::string& CompositionalFluid::GetName() const {
+    return command_->name;
+}
+
+void CompositionalFluid::SetGlobalName(const std::string& name, const std::string& globalName) {
+    const std::size_t index = Require(command_->Find(name), name);
+    const auto bearer = command_->FindGlobal(globalName);
+    if (bearer && *bearer != index) {
+        throw std::invalid_argument("Another component already bears the global name '" +
+                                    globalName + "'");
+    }
+    command_->SetGlobalName(index, globalName);
+}
+
+CompositionalFluidCommand& CompositionalFluid::GetFluidCommand() {
+    return *command_;
+}
+
+} // namespace Orv::FluidBench::Model

@@ -1,0 +1,58 @@
+// The inside of a fluid. The toolbox's commands work on it directly; everybody else goes through
+// CompositionalFluid, which owns one.
+#pragma once
+
+#include "FluidBench/Common/Enumerations.h"
+#include "FluidBench/Impl/Command/CompositionalFluidCommand.h"
+#include "FluidBench/Model/FluidComponent.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace Orv::FluidBench::Impl::Command {
+
+/// A value. Components are found by name, and coefficients by the places of their components in a
+/// lower triangle, so neither look-up walks a list.
+class CompositionalFluidCommand {
+public:
+    std::string name;
+    Common::pvtEnumEoS eos = Common::pvtEnumEoS::PengRobinson;
+    Common::pvtEnumViscosityMethod viscosity = Common::pvtEnumViscosityMethod::LohrenzBrayClark;
+    Common::pvtEnumInterfacialTensionMethod interfacialTension =
+        Common::pvtEnumInterfacialTensionMethod::Parachor;
+    Common::pvtEnumUnitFraction fractionType = Common::pvtEnumUnitFraction::Mole;
+    bool temperatureDependentVolumeShift = false;
+
+    struct Entry {
+        Model::FluidComponent component;
+        double fraction;
+        std::string globalName;
+    };
+
+    /// In the order in which the components were first set.
+    const std::vector<Entry>& Components() const noexcept { return components_; }
+
+    std::optional<std::size_t> Find(const std::string& componentName) const;
+    std::optional<std::size_t> FindGlobal(const std::string& globalName) const;
+
+    /// Adds a component, or replaces the one of that name in its place.
+    void SetComponent(const Model::FluidComponent& component, double fraction);
+    void SetGlobalName(std::size_t index, const std::string& globalName);
+
+    /// Nothing where no coefficient is set, or where both places are the same.
+    std::optional<double> Coefficient(std::size_t first, std::size_t second) const noexcept;
+    /// Both places must exist and differ.
+    void SetCoefficient(std::size_t first, std::size_t second, double value);
+
+private:
+    std::vector<Entry> components_;
+    std::unordered_map<std::string, std::size_t> indexOfName_;
+    std::unordered_map<std::string, std::size_t> indexOfGlobalName_;
+    // Row i holds the i coefficients of component i with those before it.
+    std::vector<std::optional<double>> coefficients_;
+};
+
+} // namespace Orv::FluidBench::Impl::Command

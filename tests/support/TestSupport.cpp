@@ -1,0 +1,71 @@
+#include "TestSupport.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+namespace FluidBenchTest {
+
+namespace {
+
+class ForeignPunctuation : public std::numpunct<char> {
+protected:
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\2"; }
+};
+
+} // namespace
+
+TemporaryFolder::TemporaryFolder() {
+    std::string name = (std::filesystem::temp_directory_path() / "fluidbench-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr) {
+        throw std::runtime_error("No temporary folder can be made");
+    }
+    path_ = name;
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code error;
+    std::filesystem::remove_all(path_, error);
+}
+
+std::string TemporaryFolder::Write(const std::string& name, std::string_view content) const {
+    std::ofstream(path_ / name, std::ios_base::binary) << content;
+    return *this / name;
+}
+
+std::string ReadFile(const std::string& path) {
+    const std::ifstream file(path, std::ios_base::binary);
+    EXPECT_TRUE(file.is_open()) << path;
+    std::ostringstream content;
+    content << file.rdbuf();
+    return content.str();
+}
+
+std::string DataPath(const std::string& name) {
+    return std::string(FLUIDBENCH_TEST_DATA) + "/" + name;
+}
+
+std::string ReadData(const std::string& name) {
+    return ReadFile(DataPath(name));
+}
+
+std::vector<std::int32_t> MessageIds(const Orv::FluidBench::Common::ErrorReport& report) {
+    std::vector<std::int32_t> ids;
+    for (const auto& message : report.GetMessages()) {
+        ids.push_back(message.GetMessageId());
+    }
+    return ids;
+}
+
+std::locale ForeignLocale() {
+    return {std::locale::classic(), new ForeignPunctuation};
+}
+
+ForeignGlobalLocale::ForeignGlobalLocale() : previous_(std::locale::global(ForeignLocale())) {}
+ForeignGlobalLocale::~ForeignGlobalLocale() {
+    std::locale::global(previous_);
+}
+
+} // namespace FluidBenchTest
