@@ -1,0 +1,275 @@
+#include "ComponentSections.h"
+
+#include "DeckText.h"
+#include "FluidBench/Common/Units.h"
+#include "FluidBench/Utilities/ModelParameters.h"
+#include "FluidBench/Utilities/Strings.h"
+#include "NumberText.h"
+
+#include <string>
+
+namespace Orv::FluidBench::IO {
+
+using Common::pvtEnumBICType;
+using Common::pvtEnumEoS;
+using Common::pvtEnumPropertySource;
+using Common::pvtEnumViscosityMethod;
+using Common::Units;
+using Impl::IO::AppendNumber;
+using Model::CompositionalFluid;
+using Model::FluidComponent;
+using Utilities::ModelParameters;
+using Utilities::Strings;
+
+namespace {
+
+using Conversion = double (*)(double);
+
+double AsItIs(double value) {
+    return value;
+}
+
+// A section of one property: its keyword, where the value comes from, its unit in each system.
+struct PropertySection {
+    const char* keyword;
+    pvtEnumPropertySource (FluidComponent::*source)() const;
+    double (FluidComponent::*value)() const;
+    const char* metricUnit;
+    Conversion toMetric;
+    const char* fieldUnit;
+    Conversion toField;
+};
+
+constexpr const char* noUnit = nullptr;
+
+// clang-format off
+constexpr PropertySection molecularWeight{
+    "MW", &FluidComponent::GetMolecularWeightSource, &FluidComponent::GetMolecularWeight,
+    noUnit, AsItIs, noUnit, AsItIs};
+constexpr PropertySection omegaA{
+    "OMEGAA", &FluidComponent::GetOmegaASource, &FluidComponent::GetOmegaA,
+    noUnit, AsItIs, noUnit, AsItIs};
+constexpr PropertySection omegaB{
+    "OMEGAB", &FluidComponent::GetOmegaBSource, &FluidComponent::GetOmegaB,
+    noUnit, AsItIs, noUnit, AsItIs};
+constexpr PropertySection criticalTemperature{
+    "TCRIT", &FluidComponent::GetTcritSource, &FluidComponent::GetTcrit,
+    "--Units: K", AsItIs,
+    "--Units: R", Units::Temperature_K_To_R};
+constexpr PropertySection criticalPressure{
+    "PCRIT", &FluidComponent::GetPcritSource, &FluidComponent::GetPcrit,
+    "--Units: bar", Units::Pressure_Pa_To_bar,
+    "--Units: psia", Units::Pressure_Pa_To_psi};
+constexpr PropertySection criticalVolume{
+    "VCRIT", &FluidComponent::GetVcritSource, &FluidComponent::GetVcrit,
+    "--Units: m3/kg-mole", Units::MolarVolume_m3gmmol_To_m3kgmol,
+    "--Units: ft3/lb-mole", Units::MolarVolume_m3gmmol_To_ft3lbmol};
+constexpr PropertySection criticalZFactor{
+    "ZCRIT", &FluidComponent::GetZcritSource, &FluidComponent::GetZcrit,
+    noUnit, AsItIs, noUnit, AsItIs};
+constexpr PropertySection acentricFactor{
+    "ACF", &FluidComponent::GetAcfSource, &FluidComponent::GetAcf,
+    noUnit, AsItIs, noUnit, AsItIs};
+constexpr PropertySection parachor{
+    "PARACHOR", &FluidComponent::GetParachorSource, &FluidComponent::GetParachor,
+    noUnit, AsItIs, noUnit, AsItIs};
+constexpr PropertySection criticalVolumeForViscosity{
+    "VCRITVIS", &FluidComponent::GetVcritViscositySource, &FluidComponent::GetVcritViscosity,
+    "--Units: m3/kg-mole", Units::MolarVolume_m3gmmol_To_m3kgmol,
+    "--Units: ft3/lb-mole", Units::MolarVolume_m3gmmol_To_ft3lbmol};
+// clang-format on
+
+constexpr const char* separator = "--";
+constexpr const char* noValue = "0.0";
+constexpr const char* noVolumeShift = "0";
+constexpr std::size_t longestInteractionLine = 76;
+
+void BeginSection(std::ostream& deck, const char* keyword) {
+    WriteDeckLine(deck, keyword);
+    WriteDeckLine(deck, separator);
+}
+
+void EndSection(std::ostream& deck) {
+    WriteDeckLine(deck, "/");
+    WriteDeckLine(deck, separator);
+}
+
+void WriteSection(std::ostream& deck, const PropertySection& section, const Components& components,
+                  std::size_t n, bool metric) {
+    const char* const unit = metric ? section.metricUnit : section.fieldUnit;
+    const Conversion convert = metric ? section.toMetric : section.toField;
+    if (unit != noUnit) {
+        WriteDeckLine(deck, unit);
+    }
+    BeginSection(deck, section.keyword);
+    std::string line;
+    for (std::size_t i = 0; i < n; ++i) {
+        const FluidComponent& component = components[i];
+        if ((component.*section.source)() == pvtEnumPropertySource::None) {
+            line = noValue;
+        } else {
+            AppendNumber(line, convert((component.*section.value)()), deckNumber);
+        }
+        WriteDeckLine(deck, line);
+    }
+    EndSection(deck);
+}
+
+void WriteUnitless(std::ostream& deck, const PropertySection& section, const Components& components,
+                   std::size_t n) {
+    constexpr bool eitherSystem = true;
+    WriteSection(deck, section, components, n, eitherSystem);
+}
+
+bool HasVolumeShift(pvtEnumEoS eos) {
+    return eos == pvtEnumEoS::PengRobinsonVolumeShift ||
+           eos == pvtEnumEoS::PengRobinson78VolumeShift ||
+           eos == pvtEnumEoS::SoaveRedlichKwongVolumeShift;
+}
+
+// Writes a row of the interaction matrix: the component `row` with every one before it.
+//
+// A line is broken ahead of a known value that would make it too long, where the value counts with
+// the six digits of a plain text stream though it is written with ten.
+void WriteInteractionRow(std::ostream& deck, const CompositionalFluid& fluid,
+                         const std::vector<std::string>& names, std::size_t row, std::string& line,
+                         std::string& measure) {
+    constexpr auto set = pvtEnumBICType::ReservoirEoS;
+    for (std::size_t column = 0; column < row; ++column) {
+        if (fluid.GetBICSource(names[row], names[column], set) == pvtEnumPropertySource::None) {
+            line += "0.0 ";
+            continue;
+        }
+        const double value = fluid.GetBIC(names[row], names[column], set);
+        measure.clear();
+        AppendNumber(measure, value, {});
+        measure += ' ';
+        if (line.size() + measure.size() >= longestInteractionLine) {
+            WriteDeckLine(deck, line);
+        }
+        AppendNumber(line, value, deckNumber);
+        line += ' ';
+    }
+    if (!line.empty()) {
+        WriteDeckLine(deck, line);
+    }
+}
+
+} // namespace
+
+void WriteComponentNames(std::ostream& deck, const CompositionalFluid& fluid, std::size_t n) {
+    std::string line;
+    BeginSection(deck, "NCOMPS");
+    AppendNumber(line, std::uint64_t{n});
+    WriteDeckLine(deck, line);
+    EndSection(deck);
+
+    BeginSection(deck, "CNAMES");
+    const std::vector<std::string> names = fluid.ListComponents();
+    for (std::size_t i = 0; i < n; ++i) {
+        std::string name = names[i];
+        Strings::RemoveAllSpaces(name);
+        line = "'" + name + "'";
+        WriteDeckLine(deck, line);
+    }
+    EndSection(deck);
+}
+
+void WriteMolecularWeights(std::ostream& deck, const Components& components, std::size_t n) {
+    WriteUnitless(deck, molecularWeight, components, n);
+}
+
+void WriteOmegas(std::ostream& deck, const Components& components, std::size_t n) {
+    WriteUnitless(deck, omegaA, components, n);
+    WriteUnitless(deck, omegaB, components, n);
+}
+
+void WriteCriticalTemperatures(std::ostream& deck, const Components& components, std::size_t n,
+                               bool metric) {
+    WriteSection(deck, criticalTemperature, components, n, metric);
+}
+
+void WriteCriticalPressures(std::ostream& deck, const Components& components, std::size_t n,
+                            bool metric) {
+    WriteSection(deck, criticalPressure, components, n, metric);
+}
+
+void WriteCriticalVolumes(std::ostream& deck, const Components& components, std::size_t n,
+                          bool metric) {
+    WriteSection(deck, criticalVolume, components, n, metric);
+}
+
+void WriteCriticalZFactors(std::ostream& deck, const Components& components, std::size_t n) {
+    WriteUnitless(deck, criticalZFactor, components, n);
+}
+
+void WriteVolumeShifts(std::ostream& deck, const CompositionalFluid& fluid,
+                       double reservoirTemperature, const Components& components, std::size_t n) {
+    if (!HasVolumeShift(fluid.GetEoS())) {
+        return;
+    }
+    BeginSection(deck, "SSHIFT");
+    std::string line;
+    for (std::size_t i = 0; i < n; ++i) {
+        const FluidComponent& component = components[i];
+        if (component.GetEoSVolumeShiftSource() == pvtEnumPropertySource::None) {
+            line = noVolumeShift;
+        } else {
+            const bool temperatureDependent = fluid.GetUseTemperatureDependentVolumeShift();
+            AppendNumber(
+                line,
+                component.GetEoSTDependantVolumeShift(reservoirTemperature, temperatureDependent),
+                deckNumber);
+        }
+        WriteDeckLine(deck, line);
+    }
+    EndSection(deck);
+}
+
+void WriteAcentricFactors(std::ostream& deck, const Components& components, std::size_t n) {
+    WriteUnitless(deck, acentricFactor, components, n);
+}
+
+void WriteBinaryInteractions(std::ostream& deck, const CompositionalFluid& fluid, std::size_t n) {
+    BeginSection(deck, "BIC");
+    const std::vector<std::string> names = fluid.ListComponents();
+    std::string line;
+    std::string measure;
+    for (std::size_t row = 0; row < n; ++row) {
+        WriteInteractionRow(deck, fluid, names, row, line, measure);
+    }
+    EndSection(deck);
+}
+
+void WriteParachors(std::ostream& deck, const Components& components, std::size_t n) {
+    WriteUnitless(deck, parachor, components, n);
+}
+
+void WriteViscosityAndComposition(std::ostream& deck, const CompositionalFluid& fluid,
+                                  const Components& components, std::size_t n, bool metric) {
+    WriteSection(deck, criticalVolumeForViscosity, components, n, metric);
+
+    std::string line;
+    BeginSection(deck, "LBCCOEF");
+    if (fluid.GetViscosityCorrelation() == pvtEnumViscosityMethod::LohrenzBrayClark) {
+        const std::vector<double> coefficients =
+            ModelParameters::GetLohrenzBrayClarkViscosityCoeffs();
+        constexpr std::size_t numberOfCoefficients = 5;
+        for (std::size_t i = 0; i < numberOfCoefficients; ++i) {
+            AppendNumber(line, coefficients[i], deckNumber);
+            line += ' ';
+        }
+        WriteDeckLine(deck, line);
+    }
+    EndSection(deck);
+
+    BeginSection(deck, "ZI");
+    const std::vector<std::string> names = fluid.ListComponents();
+    for (std::size_t i = 0; i < n; ++i) {
+        AppendNumber(line, fluid.GetComponentFraction(names[i]), deckNumber);
+        WriteDeckLine(deck, line);
+    }
+    EndSection(deck);
+}
+
+} // namespace Orv::FluidBench::IO
