@@ -1,0 +1,30 @@
+// Tables and numbers for a person at a terminal.
+#pragma once
+
+#include <cstddef>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace FluidBenchTool {
+
+/// The number with that many significant digits, as printf's %.*g writes it, in any locale.
+std::string NumberText(double value, int significantDigits = 6);
+
+/// Rows of text in aligned columns: the first column to the left, the others to the right.
+class Table {
+public:
+    explicit Table(std::vector<std::string> headings);
+
+    /// A row may be shorter than the headings; the rest of it stays empty.
+    void AddRow(std::vector<std::string> cells);
+
+    /// Writes the headings and the rows, each line indented by `indent` blanks.
+    void Print(std::ostream& out, std::size_t indent = 0) const;
+
+private:
+    std::vector<std::vector<std::string>> rows_;
+};
+
+} // namespace FluidBenchTool
