@@ -1,16 +1,13 @@
 // An experiment that holds measurements in place of computed stages.
 #pragma once
 
+#include "FluidBench/Experiments/ExperimentType.h"
 #include "FluidBench/Experiments/Stage.h"
 #include "Visibility.h"
 
-#include <cstdint>
 #include <vector>
 
 namespace Orv::FluidBench::Experiments {
-
-/// Kind of an experiment, as far as the I/O library names it.
-enum class ExperimentType : std::int32_t { DownholeFluidAnalysis = 7 };
 
 /// A value that owns its stages.
 class FLUIDBENCH_BOUNDARY_API ObservedExperiment {

@@ -2,17 +2,11 @@
 #pragma once
 
 #include "FluidBench/Common/ErrorReport.h"
+#include "FluidBench/Model/CharacterisationControl.h"
 #include "FluidBench/Model/CompositionalFluid.h"
 #include "Visibility.h"
 
 namespace Orv::FluidBench::Model {
-
-/// What a characterisation should do; its defaults are all that the I/O library uses.
-class FLUIDBENCH_BOUNDARY_API CharacterisationControl {
-public:
-    CharacterisationControl();
-    ~CharacterisationControl();
-};
 
 /// Lives for one operation.
 class FLUIDBENCH_BOUNDARY_API Characterisation {
