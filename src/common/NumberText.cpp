@@ -276,12 +276,15 @@ std::optional<double> ExtractDecimal(std::string_view text) noexcept {
     text = SkipSpace(text);
     const bool isNegative = TakeSign(text);
     const Magnitude number = ReadDecimal(text);
-    const bool exponentLacksDigits = number.rest.starts_with('e') || number.rest.starts_with('E');
-    // "1e5e" is a whole number and a letter; "1e" is an exponent that never comes.
-    const auto taken = text.substr(0, text.size() - number.rest.size());
-    const bool hasExponent = taken.find_first_of("eE") != std::string_view::npos;
-    if (!number.isThere || number.isTooLarge || (exponentLacksDigits && !hasExponent)) {
+    if (!number.isThere || number.isTooLarge) {
         return std::nullopt;
+    }
+    if (number.rest.starts_with('e') || number.rest.starts_with('E')) {
+        // "1e5e" is a whole number and a letter; "1e" is an exponent that never comes.
+        const auto taken = text.substr(0, text.size() - number.rest.size());
+        if (taken.find_first_of("eE") == std::string_view::npos) {
+            return std::nullopt;
+        }
     }
     return isNegative ? -number.value : number.value;
 }

@@ -1,0 +1,115 @@
+// Importing the exports of a downhole fluid analysis job: how the time grows with the number of
+// stations, and how it compares with merely reading the numbers of both files.
+#include "Ratios.h"
+#include "io/DFAReader.h"
+
+#include <benchmark/benchmark.h>
+
+#include <charconv>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+using Orv::FluidBench::IO::DFAReader;
+
+constexpr int halfSize = 50'000;
+constexpr int fullSize = 100'000;
+
+// How the depths of the stations follow each other.
+enum Order : std::int64_t { taken, equal };
+
+const std::filesystem::path& Folder() {
+    static const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / "fluidbench-dfa-benchmark";
+    return folder;
+}
+
+std::string Number(double value) {
+    char text[32];
+    return {text, std::to_chars(text, text + sizeof text, value, std::chars_format::fixed, 2).ptr};
+}
+
+// Ten wells. Stations come in the order in which they were taken, up and down the well, or all of
+// them lie at one depth. Every station has its pressure in the FT file, in another order.
+std::string MainFile(int stations, Order order) {
+    std::filesystem::create_directories(Folder());
+    const std::string name =
+        (Folder() / (std::to_string(stations) + (order == equal ? "equal" : "taken"))).string();
+    std::mt19937 random(11);
+    std::ofstream main(name + "_DFA.txt");
+    std::ofstream pressure(name + "_FT.txt");
+    for (std::ofstream* const file : {&main, &pressure}) {
+        *file << "BEGIN HEADER\nEND HEADER\n";
+    }
+    for (int i = 0; i < stations; ++i) {
+        const std::string depth =
+            Number(order == equal ? 9850.0 : 6000.0 + random() % 400'000 / 100.0);
+        const std::string start = "1 \"WELL " + std::to_string(i / (stations / 10)) + "\" " + depth;
+        const std::string station = " \"STATION " + std::to_string(i) + "\" ";
+        main << start << " 1 1190.50 52.10 7.90 12.40 26.90 0.70 0.69" << station
+             << "0.35 1.20 0.08 4.00 2.00 0.11 0.97 35.20 187.50 3.00 12.25\n";
+        pressure << start << " 1 4310.75" << station << "1.20 0.03\n";
+    }
+    return name + "_DFA.txt";
+}
+
+void Import(benchmark::State& state) {
+    const std::string file = MainFile(static_cast<int>(state.range(0)), Order(state.range(1)));
+    for (auto _ : state) {
+        DFAReader reader;
+        if (!reader.Import(file) || reader.GetExtractedData().size() != 10) {
+            throw std::runtime_error("The import failed");
+        }
+        benchmark::DoNotOptimize(reader);
+    }
+}
+
+void ReadNumbers(benchmark::State& state) {
+    const std::string file = MainFile(fullSize, taken);
+    const std::string stem = file.substr(0, file.size() - 7);
+    for (auto _ : state) {
+        double sum = 0.0;
+        for (const std::string& name : {file, stem + "FT.txt"}) {
+            std::ifstream stream(name);
+            std::string line;
+            while (std::getline(stream, line)) {
+                const char* position = line.data();
+                const char* const end = position + line.size();
+                while (position < end) {
+                    double value = 0.0;
+                    const auto [behind, error] = std::from_chars(position, end, value);
+                    sum += value;
+                    position = error == std::errc() ? behind : position + 1;
+                }
+            }
+        }
+        benchmark::DoNotOptimize(sum);
+    }
+}
+
+BENCHMARK(Import)
+    ->Unit(benchmark::kMillisecond)
+    ->Args({halfSize, taken})
+    ->Args({fullSize, taken})
+    ->Args({halfSize, equal})
+    ->Args({fullSize, equal});
+BENCHMARK(ReadNumbers)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argumentCount, char** arguments) {
+    const int status = FluidBenchBenchmark::RunAndPrintRatios(
+        argumentCount, arguments,
+        {{"import of 100,000 stations : getline and from_chars", "Import/100000/0", "ReadNumbers",
+          4.0},
+         {"growth, 50,000 to 100,000 stations in any order", "Import/100000/0", "Import/50000/0",
+          2.5},
+         {"growth, 50,000 to 100,000 stations at one depth", "Import/100000/1", "Import/50000/1",
+          2.5}});
+    std::filesystem::remove_all(Folder());
+    return status;
+}
