@@ -11,12 +11,21 @@
 
 namespace Orv::FluidBench::Impl::Command {
 
+using Common::PropertyOutOfRangeException;
+
 namespace {
 
 std::optional<std::size_t> Look(const std::unordered_map<std::string, std::size_t>& index,
                                 const std::string& name) {
     const auto found = index.find(name);
     return found == index.end() ? std::nullopt : std::optional(found->second);
+}
+
+std::size_t Require(std::optional<std::size_t> index, const std::string& name) {
+    if (!index) {
+        throw std::invalid_argument("The fluid has no component called '" + name + "'");
+    }
+    return *index;
 }
 
 std::size_t PlaceInTriangle(std::size_t first, std::size_t second) noexcept {
@@ -30,14 +39,26 @@ std::optional<std::size_t> CompositionalFluidCommand::Find(const std::string& co
     return Look(indexOfName_, componentName);
 }
 
+std::size_t CompositionalFluidCommand::Get(const std::string& componentName) const {
+    return Require(Find(componentName), componentName);
+}
+
 std::optional<std::size_t>
 CompositionalFluidCommand::FindGlobal(const std::string& globalName) const {
     return Look(indexOfGlobalName_, globalName);
 }
 
+std::size_t CompositionalFluidCommand::GetGlobal(const std::string& globalName) const {
+    return Require(FindGlobal(globalName), globalName);
+}
+
 void CompositionalFluidCommand::SetComponent(const Model::FluidComponent& component,
                                              double fraction) {
     const std::string& componentName = component.GetName();
+    if (!std::isfinite(fraction) || fraction < 0.0) {
+        throw PropertyOutOfRangeException("The fraction of component '" + componentName +
+                                          "' must be a finite number that isn't negative");
+    }
     if (const auto index = Find(componentName)) {
         components_[*index].component = component;
         components_[*index].fraction = fraction;
@@ -56,18 +77,30 @@ void CompositionalFluidCommand::SetGlobalName(std::size_t index, const std::stri
     entry.globalName = globalName;
 }
 
-std::optional<double> CompositionalFluidCommand::Coefficient(std::size_t first,
-                                                             std::size_t second) const noexcept {
-    if (first == second) {
+std::optional<double> CompositionalFluidCommand::Coefficient(const std::string& first,
+                                                             const std::string& second) const {
+    const auto row = Find(first);
+    const auto column = Find(second);
+    if (!row || !column || *row == *column) {
         return std::nullopt;
     }
-    const std::size_t place = PlaceInTriangle(first, second);
+    const std::size_t place = PlaceInTriangle(*row, *column);
     return place < coefficients_.size() ? coefficients_[place] : std::nullopt;
 }
 
-void CompositionalFluidCommand::SetCoefficient(std::size_t first, std::size_t second,
+void CompositionalFluidCommand::SetCoefficient(const std::string& first, const std::string& second,
                                                double value) {
-    const std::size_t place = PlaceInTriangle(first, second);
+    const std::size_t row = Get(first);
+    const std::size_t column = Get(second);
+    if (row == column) {
+        throw std::invalid_argument("Component '" + first +
+                                    "' has no interaction coefficient with itself");
+    }
+    if (!std::isfinite(value)) {
+        throw PropertyOutOfRangeException("The interaction coefficient of '" + first + "' and '" +
+                                          second + "' must be a finite number");
+    }
+    const std::size_t place = PlaceInTriangle(row, column);
     if (place >= coefficients_.size()) {
         const std::size_t n = components_.size();
         coefficients_.resize(n * (n - 1) / 2);
@@ -79,7 +112,6 @@ void CompositionalFluidCommand::SetCoefficient(std::size_t first, std::size_t se
 
 namespace Orv::FluidBench::Model {
 
-using Common::PropertyOutOfRangeException;
 using Common::pvtEnumBICType;
 using Common::pvtEnumEoS;
 using Common::pvtEnumInterfacialTensionMethod;
@@ -87,28 +119,6 @@ using Common::pvtEnumPropertySource;
 using Common::pvtEnumUnitFraction;
 using Common::pvtEnumViscosityMethod;
 using Impl::Command::CompositionalFluidCommand;
-
-namespace {
-
-std::invalid_argument Lacks(const std::string& name) {
-    return std::invalid_argument("The fluid has no component called '" + name + "'");
-}
-
-std::size_t Require(std::optional<std::size_t> index, const std::string& name) {
-    if (!index) {
-        throw Lacks(name);
-    }
-    return *index;
-}
-
-std::optional<double> FindCoefficient(const CompositionalFluidCommand& fluid,
-                                      const std::string& first, const std::string& second) {
-    const auto row = fluid.Find(first);
-    const auto column = fluid.Find(second);
-    return row && column ? fluid.Coefficient(*row, *column) : std::nullopt;
-}
-
-} // namespace
 
 CompositionalFluid::CompositionalFluid(const std::string& name)
     : command_(std::make_unique<CompositionalFluidCommand>()) {
@@ -155,37 +165,23 @@ pvtEnumUnitFraction CompositionalFluid::GetComponentFractionType() const {
 }
 
 void CompositionalFluid::SetComponent(const FluidComponent& component, double fraction) {
-    if (!std::isfinite(fraction) || fraction < 0.0) {
-        throw PropertyOutOfRangeException("The fraction of component '" + component.GetName() +
-                                          "' must be a finite number that isn't negative");
-    }
     command_->SetComponent(component, fraction);
 }
 
 void CompositionalFluid::SetBIC(const std::string& first, const std::string& second, double value) {
-    const std::size_t row = Require(command_->Find(first), first);
-    const std::size_t column = Require(command_->Find(second), second);
-    if (row == column) {
-        throw std::invalid_argument("Component '" + first +
-                                    "' has no interaction coefficient with itself");
-    }
-    if (!std::isfinite(value)) {
-        throw PropertyOutOfRangeException("The interaction coefficient of '" + first + "' and '" +
-                                          second + "' must be a finite number");
-    }
-    command_->SetCoefficient(row, column, value);
+    command_->SetCoefficient(first, second, value);
 }
 
 double CompositionalFluid::GetBIC(const std::string& first, const std::string& second,
                                   pvtEnumBICType) const {
-    return FindCoefficient(*command_, first, second).value_or(0.0);
+    return command_->Coefficient(first, second).value_or(0.0);
 }
 
 pvtEnumPropertySource CompositionalFluid::GetBICSource(const std::string& first,
                                                        const std::string& second,
                                                        pvtEnumBICType) const {
-    return FindCoefficient(*command_, first, second) ? pvtEnumPropertySource::User
-                                                     : pvtEnumPropertySource::None;
+    return command_->Coefficient(first, second) ? pvtEnumPropertySource::User
+                                                : pvtEnumPropertySource::None;
 }
 
 const std::vector<FluidComponent> CompositionalFluid::GetOrderedComponents() const {
@@ -211,7 +207,7 @@ int CompositionalFluid::NumberOfComponents() const {
 }
 
 double CompositionalFluid::GetComponentFraction(const std::string& name) const {
-    return command_->Components()[Require(command_->Find(name), name)].fraction;
+    return command_->Components()[command_->Get(name)].fraction;
 }
 
 std::vector<std::string> CompositionalFluid::ListComponentsGlobalNames() const {
@@ -228,7 +224,7 @@ bool CompositionalFluid::HasComponentWithGlobalName(const std::string& globalNam
 }
 
 double CompositionalFluid::GetComponentFractionByGlobalName(const std::string& globalName) const {
-    return command_->Components()[Require(command_->FindGlobal(globalName), globalName)].fraction;
+    return command_->Components()[command_->GetGlobal(globalName)].fraction;
 }
 
 bool CompositionalFluid::GetUseTemperatureDependentVolumeShift() const {
@@ -243,7 +239,7 @@ const std::string& CompositionalFluid::GetName() const {
 }
 
 void CompositionalFluid::SetGlobalName(const std::string& name, const std::string& globalName) {
-    const std::size_t index = Require(command_->Find(name), name);
+    const std::size_t index = command_->Get(name);
     const auto bearer = command_->FindGlobal(globalName);
     if (bearer && *bearer != index) {
         throw std::invalid_argument("Another component already bears the global name '" +

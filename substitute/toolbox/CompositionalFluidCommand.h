@@ -37,15 +37,21 @@ public:
 
     std::optional<std::size_t> Find(const std::string& componentName) const;
     std::optional<std::size_t> FindGlobal(const std::string& globalName) const;
+    /// The same, for a name that must be there; throw `std::invalid_argument`.
+    std::size_t Get(const std::string& componentName) const;
+    std::size_t GetGlobal(const std::string& globalName) const;
 
-    /// Adds a component, or replaces the one of that name in its place.
+    /// Adds a component, or replaces the one of that name in its place. Throws
+    /// `PropertyOutOfRangeException` for a fraction that is negative or not finite.
     void SetComponent(const Model::FluidComponent& component, double fraction);
     void SetGlobalName(std::size_t index, const std::string& globalName);
 
-    /// Nothing where no coefficient is set, or where both places are the same.
-    std::optional<double> Coefficient(std::size_t first, std::size_t second) const noexcept;
-    /// Both places must exist and differ.
-    void SetCoefficient(std::size_t first, std::size_t second, double value);
+    /// Nothing where no coefficient is set, for a name that isn't there, or where both names are
+    /// the same.
+    std::optional<double> Coefficient(const std::string& first, const std::string& second) const;
+    /// Throws `std::invalid_argument` for a name that isn't there or where both names are the same,
+    /// and `PropertyOutOfRangeException` for a value that isn't finite.
+    void SetCoefficient(const std::string& first, const std::string& second, double value);
 
 private:
     std::vector<Entry> components_;
