@@ -18,4 +18,7 @@ public:
     explicit CommandFailed(const std::string& reason = {}) : std::runtime_error(reason) {}
 };
 
+void AddDfaCommands(CLI::App& program);
+void AddMflCommands(CLI::App& program);
+
 } // namespace FluidBenchTool

@@ -22,6 +22,8 @@ int main(int argumentCount, char** arguments) {
     CLI::App program("Looks into the files of reservoir fluids and converts them.",
                      "fluidbench-io");
     program.require_subcommand(1);
+    FluidBenchTool::AddDfaCommands(program);
+    FluidBenchTool::AddMflCommands(program);
     try {
         program.parse(argumentCount, arguments);
     } catch (const CLI::ParseError& error) {
