@@ -34,27 +34,28 @@ std::string Number(double value) {
 }
 
 // Ten wells. Stations come in the order in which they were taken, up and down the well, or all of
-// them lie at one depth. Every station has its pressure in the FT file, in another order.
+// them lie at one depth. Every station has its pressure in the FT file.
 std::string MainFile(int stations, Order order) {
     std::filesystem::create_directories(Folder());
-    const std::string name =
-        (Folder() / (std::to_string(stations) + (order == equal ? "equal" : "taken"))).string();
+    std::string name = (Folder() / std::to_string(stations)).string();
+    name += order == equal ? "equal_" : "taken_";
     std::mt19937 random(11);
-    std::ofstream main(name + "_DFA.txt");
-    std::ofstream pressure(name + "_FT.txt");
-    for (std::ofstream* const file : {&main, &pressure}) {
-        *file << "BEGIN HEADER\nEND HEADER\n";
-    }
+    std::uniform_real_distribution<double> anyDepth(6000.0, 10'000.0);
+    std::string mainName = name + "DFA.txt";
+    std::ofstream main(mainName);
+    std::ofstream pressure(name + "FT.txt");
+    main << "BEGIN HEADER\nEND HEADER\n";
+    pressure << "BEGIN HEADER\nEND HEADER\n";
     for (int i = 0; i < stations; ++i) {
-        const std::string depth =
-            Number(order == equal ? 9850.0 : 6000.0 + random() % 400'000 / 100.0);
-        const std::string start = "1 \"WELL " + std::to_string(i / (stations / 10)) + "\" " + depth;
-        const std::string station = " \"STATION " + std::to_string(i) + "\" ";
-        main << start << " 1 1190.50 52.10 7.90 12.40 26.90 0.70 0.69" << station
-             << "0.35 1.20 0.08 4.00 2.00 0.11 0.97 35.20 187.50 3.00 12.25\n";
-        pressure << start << " 1 4310.75" << station << "1.20 0.03\n";
+        const std::string depth = Number(order == equal ? 9850.0 : anyDepth(random));
+        const int well = i / (stations / 10);
+        main << "1 \"WELL " << well << "\" " << depth
+             << " 1 1190.50 52.10 7.90 12.40 26.90 0.70 0.69 \"STATION " << i
+             << "\" 0.35 1.20 0.08 4.00 2.00 0.11 0.97 35.20 187.50 3.00 12.25\n";
+        pressure << "1 \"WELL " << well << "\" " << depth << " 1 4310.75 \"STATION " << i
+                 << "\" 1.20 0.03\n";
     }
-    return name + "_DFA.txt";
+    return mainName;
 }
 
 void Import(benchmark::State& state) {

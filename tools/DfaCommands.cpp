@@ -38,14 +38,17 @@ void PrintInFileUnits(const WellData& well) {
     table.Print(std::cout, 2);
 }
 
+constexpr int digitsOfPascals = 9; // a reservoir's pressure without an exponent
+
 void PrintInModelUnits(const ObservedExperiment& experiment) {
     Table table({"depth m", "pressure Pa", "temperature K", "density kg/m3", "GOR m3/m3", "C1",
                  "C2", "C3toC5", "C6+", "CO2", "value"});
     for (const Stage& stage : experiment.Stages) {
         const auto& results = *stage.Results;
         std::vector<std::string> row;
-        for (const auto& result : {results.Depth, results.Pressure, results.Temperature,
-                                   results.Density, results.GasOilRatio}) {
+        row.push_back(NumberText(results.Depth.GetValue()));
+        row.push_back(NumberText(results.Pressure.GetValue(), digitsOfPascals));
+        for (const auto& result : {results.Temperature, results.Density, results.GasOilRatio}) {
             row.push_back(NumberText(result.GetValue()));
         }
         for (const std::string& component : stage.Fluid.ListComponents()) {

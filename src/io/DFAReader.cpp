@@ -212,7 +212,8 @@ bool DFAReader::ExtractData(std::vector<std::string>& lines,
     if (headerEnd == lines.end() || headerBegin > headerEnd) {
         return false;
     }
-    dataLines.assign(std::make_move_iterator(headerEnd + 1), std::make_move_iterator(lines.end()));
+    lines.erase(lines.begin(), headerEnd + 1);
+    dataLines = std::move(lines);
     return true;
 }
 
