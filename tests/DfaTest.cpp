@@ -145,7 +145,7 @@ TEST_F(DfaTest, FindsTheHeader) {
 
 TEST_F(DfaTest, FindsThePressureFileByTheMainFilesName) {
     folder.Write("anFT.txt", header + PressureRow("A", "1", "50"));
-    EXPECT_TRUE(reader.Import(folder.Write("an1234567", header + MainRow("A", "1"))));
+    ASSERT_TRUE(reader.Import(folder.Write("an1234567", header + MainRow("A", "1"))));
     EXPECT_EQ(Wells()[0].pressures, (std::vector<double>{50}));
     EXPECT_FALSE(reader.Import(folder.Write("other_DFA.txt", header + MainRow("A", "1"))));
     std::filesystem::create_directory(folder / "other_FT.txt");
