@@ -1,11 +1,16 @@
-// Writes a compositional fluid as a PVO keyword deck.
+// Writes a compositional fluid as a PVO keyword deck, and depth runs as depth variation tables.
 #pragma once
 
 #include "FluidBench/Common/ErrorReport.h"
+#include "FluidBench/Common/Units.h"
+#include "FluidBench/Experiments/ExperimentResults.h"
+#include "FluidBench/Experiments/MSTExperiment.h"
+#include "FluidBench/Experiments/Stage.h"
 #include "FluidBench/Model/CompositionalFluid.h"
 #include "io/Export.h"
 
 #include <string>
+#include <vector>
 
 namespace Orv::FluidBench::IO {
 
@@ -29,6 +34,56 @@ public:
     Common::ErrorReport ExportToPVO(const Model::CompositionalFluid& fluid,
                                     const std::string& fileName, double reservoirTemperature,
                                     bool metric, bool writeRunspec);
+
+    // Depth variation tables, each in a file of its own that replaces an existing one. The rows are
+    // the stages of the results, which are the depths of the run. A contact stage that has a depth
+    // is put among them by depth, unless a stage stands there already (to 0.1 % of the depth).
+    // Depths are in ft for FIELD and in m otherwise; the closing record says METRIC for METRIC and
+    // FIELD for anything else.
+
+    /// Writes the composition of each stage ("ZMFVD"): the fraction of each component that `fluid`
+    /// lists, by global name, or 0 where the stage's fluid lacks it.
+    Common::ErrorReport ExportZMFVD(const Model::CompositionalFluid& fluid,
+                                    const Experiments::ExperimentResults& results,
+                                    const std::string& fileName,
+                                    Common::Units::UNIT_TYPE units) const;
+
+    /// Writes the saturation pressure of each stage that has one, in psia for FIELD and in bar
+    /// otherwise: the bubble points ("PBVD") when the first stage has a liquid phase, else the dew
+    /// points ("PDVD") and, from the contact down, the bubble points in a second table.
+    ///
+    /// Results without stages are told by message 1001, which is no error; the file is empty then.
+    Common::ErrorReport ExportPSATVD(const Experiments::ExperimentResults& results,
+                                     const std::string& fileName,
+                                     Common::Units::UNIT_TYPE units) const;
+
+    /// Writes the ratio that the separator gives for the fluid of each stage with a gas-oil ratio:
+    /// the dissolved gas ("RSVD") when the first stage holds an oil-like fluid, else the vaporised
+    /// oil ("RVVD"), which is the inverse, and, from the contact down, the dissolved gas in a
+    /// second table. In Mscf/stb and stb/Mscf for FIELD and in m3/m3 otherwise. A run that failed,
+    /// or whose last stage has no gas-oil ratio, gives 0.
+    ///
+    /// `experiment` runs once for each row. Results without stages are as for `ExportPSATVD`.
+    Common::ErrorReport ExportRSVD(const Experiments::ExperimentResults& results,
+                                   Experiments::MSTExperiment experiment,
+                                   const std::vector<Experiments::Stage>& separatorStages,
+                                   const std::string& fileName,
+                                   Common::Units::UNIT_TYPE units) const;
+
+private:
+    /// Whether the rows from `depth` on belong to the liquid below the contact and those before it
+    /// didn't. Depths are in m.
+    bool SwitchToLiquidRegion(bool hasContact, bool inLiquidRegion, double depth,
+                              double contactDepth) const;
+
+    /// Adds the stage's gas-oil ratio, if it has one.
+    void UpdateGOR(double& gasOilRatio, const Experiments::Stage& stage) const;
+
+    /// The stages with the contact put among them; `contactDepth` is left as it is without one.
+    std::vector<Experiments::Stage>
+    UpdateStageResults(const std::vector<Experiments::Stage>& stages,
+                       const Experiments::Stage& contactStage, bool hasContact,
+                       double& contactDepth) const;
 };
 
 } // namespace Orv::FluidBench::IO

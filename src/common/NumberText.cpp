@@ -226,8 +226,13 @@ Magnitude ReadAsAtof(std::string_view text) noexcept {
 
 } // namespace
 
-void AppendNumber(std::string& text, double value, NumberFormat format) {
-    text += Characters(value, format).View();
+void AppendNumber(std::string& text, double value, NumberFormat format, std::size_t width) {
+    const Characters characters(value, format);
+    const std::string_view number = characters.View();
+    if (number.size() < width) {
+        text.append(width - number.size(), ' ');
+    }
+    text += number;
 }
 
 void AppendNumber(std::string& text, std::uint64_t value) {

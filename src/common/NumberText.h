@@ -3,6 +3,7 @@
 #pragma once
 
 #include <charconv>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <ostream>
@@ -18,8 +19,8 @@ struct NumberFormat {
     int precision = 6;
 };
 
-/// Appends the number to `text`.
-void AppendNumber(std::string& text, double value, NumberFormat format);
+/// Appends the number to `text`, with blanks ahead where it is shorter than `width`.
+void AppendNumber(std::string& text, double value, NumberFormat format, std::size_t width = 0);
 void AppendNumber(std::string& text, std::uint64_t value);
 
 /// The notation and precision that the stream has at the moment. A stream set to hexadecimal

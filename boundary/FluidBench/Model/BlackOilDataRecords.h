@@ -1,0 +1,65 @@
+// One table of a black-oil description: records of entries.
+#pragma once
+
+#include "Visibility.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace Orv::FluidBench::Model {
+
+/// A value that owns its entries. A record is what belongs together, such as the undersaturated
+/// branch above one saturation point; an entry is one row of it: a pressure, the table's ratio
+/// (gas-oil or oil-gas), a formation volume factor and a viscosity. Numbers are kept as given.
+///
+/// The stand-in holds all entries in one block, 32 bytes each, with 8 more for each record. Reading
+/// an entry takes constant time, and so does appending to the last record; appending to an earlier
+/// one moves everything behind it. One thread at a time may change a table.
+///
+/// Every index is checked: one that isn't there throws `std::out_of_range`.
+class FLUIDBENCH_BOUNDARY_API BlackOilDataRecords {
+public:
+    /// An empty table.
+    BlackOilDataRecords();
+    BlackOilDataRecords(const BlackOilDataRecords&);
+    BlackOilDataRecords(BlackOilDataRecords&&) noexcept;
+    BlackOilDataRecords& operator=(const BlackOilDataRecords&);
+    BlackOilDataRecords& operator=(BlackOilDataRecords&&) noexcept;
+    ~BlackOilDataRecords();
+
+    /// Number of records.
+    std::uint64_t GetTableSize() const noexcept;
+    /// Number of entries of a record; at least one.
+    std::uint64_t GetRecordContentSize(std::uint64_t record) const;
+
+    /// Pa.
+    double GetPressure(std::uint64_t record, std::uint64_t entry) const;
+    /// Gas-oil or oil-gas ratio, m3/m3.
+    double GetProperty(std::uint64_t record, std::uint64_t entry) const;
+    /// m3/m3.
+    double GetFormationVolumeFactor(std::uint64_t record, std::uint64_t entry) const;
+    /// Pa.s.
+    double GetViscosity(std::uint64_t record, std::uint64_t entry) const;
+
+    /// Appends an entry to the record and gives its index there. The record number after the last
+    /// one begins a new record; a higher one throws `std::out_of_range` and changes nothing.
+    std::uint64_t AddEntry(std::uint64_t record, double pressure, double property,
+                           double formationVolumeFactor, double viscosity);
+
+private:
+    struct Entry {
+        double pressure;
+        double property;
+        double formationVolumeFactor;
+        double viscosity;
+    };
+
+    const Entry& At(std::uint64_t record, std::uint64_t entry) const;
+    std::uint64_t Begin(std::uint64_t record) const noexcept;
+    std::uint64_t End(std::uint64_t record) const;
+
+    std::vector<Entry> entries_;            // record after record
+    std::vector<std::uint64_t> recordEnds_; // one past the last entry of each record
+};
+
+} // namespace Orv::FluidBench::Model

@@ -1,0 +1,72 @@
+// Writes black-oil tables and compositions against pressure, and reads black-oil CSV text back.
+#pragma once
+
+#include "FluidBench/Common/ErrorReport.h"
+#include "FluidBench/Common/Units.h"
+#include "FluidBench/Experiments/ExperimentResults.h"
+#include "FluidBench/Model/BlackOilTable.h"
+#include "FluidBench/Model/CompositionalFluid.h"
+#include "io/Export.h"
+
+#include <cstdint>
+#include <string>
+
+namespace Orv::FluidBench::IO {
+
+/// Holds one option: an object may be used any number of times, by one thread at a time. The caller
+/// owns every model object; a file is open only during a call.
+///
+/// A file that can't be opened for writing is reported by message 3369 with its name, and nothing
+/// is written. A write that fails afterwards, on a full disk for instance, isn't detected.
+class FLUIDBENCH_IO_API BlackOilExportFileWriter {
+public:
+    /// Form of a file: the keywords that a simulator reads, or comma-separated text that
+    /// `GetTableFromCSVFile` reads. Any value but PVO counts as CSV.
+    enum FILE_TYPE : std::int32_t { PVO = 0, CSV = 1 };
+
+    /// The tables that go into a file. With any other value the file has no tables.
+    enum EXPORT_TYPE : std::int32_t {
+        LIVE_OIL_WET_GAS = 0,
+        LIVE_OIL_DRY_GAS = 1,
+        DEAD_OIL_WET_GAS = 2,
+        DEAD_OIL_DRY_GAS = 3
+    };
+
+    /// High precision is 15 decimals everywhere; otherwise black-oil tables have 8 and compositions
+    /// have 4.
+    explicit BlackOilExportFileWriter(bool useHighPrecision = false);
+    ~BlackOilExportFileWriter();
+    BlackOilExportFileWriter(const BlackOilExportFileWriter&) = default;
+    BlackOilExportFileWriter& operator=(const BlackOilExportFileWriter&) = default;
+
+    /// Writes the surface densities, the saturation point, the oil table and the gas table,
+    /// replacing an existing file. The water density is 1000 kg/m3 whatever the table says.
+    ///
+    /// The keyword form has field units (psia, Mscf/stb, lb/ft3) for FIELD and metric ones (bar,
+    /// m3/m3, kg/m3) otherwise. The CSV form is metric always. The closing record says METRIC for
+    /// METRIC and FIELD for anything else, in both forms.
+    Common::ErrorReport ExportToFile(const Model::BlackOilTable& table, const std::string& fileName,
+                                     Common::Units::UNIT_TYPE units, EXPORT_TYPE exportType,
+                                     FILE_TYPE fileType) const;
+
+    /// Writes the vapour and then the liquid compositions of the stages against pressure, from the
+    /// last stage back to the first, replacing an existing file. A phase that a stage lacks is
+    /// written as zeros, one for each component of `fluid`. Pressures are in psi for FIELD and in
+    /// bar otherwise; the closing record is as for `ExportToFile`.
+    Common::ErrorReport ExportXMFYMFVP(const Model::CompositionalFluid& fluid,
+                                       const Experiments::ExperimentResults& results,
+                                       const std::string& fileName,
+                                       Common::Units::UNIT_TYPE units) const;
+
+    /// Reads the CSV form of `ExportToFile`. Oil rows become live oil and gas rows wet gas,
+    /// whatever export type wrote them; the saturation point isn't read.
+    ///
+    /// There is no failure: a file that can't be opened gives an empty table, what isn't recognised
+    /// is skipped, and a cell without a number counts as 0.0.
+    Model::BlackOilTable GetTableFromCSVFile(const std::string& fileName) const;
+
+private:
+    bool highPrecision;
+};
+
+} // namespace Orv::FluidBench::IO

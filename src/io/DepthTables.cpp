@@ -1,0 +1,275 @@
+// The depth variation tables of a depth run.
+//
+//     -- Units: bar
+//     PDVD
+//     --
+//     -- Pd vs Depth
+//     --
+//             2000<tab>312.5       a depth, 12 wide, and its value
+//     /
+//     ...                          a second table where the rows pass the gas-oil contact
+//     FILEUNIT
+//     METRIC
+//     /
+//
+// The comments "-- " of the heading end in a blank. Numbers have six significant digits.
+#include "io/PVOFileWriter.h"
+
+#include "DeckText.h"
+#include "FluidBench/Utilities/Equations.h"
+#include "Messages.h"
+#include "NumberText.h"
+#include "TextFile.h"
+
+#include <algorithm>
+#include <compare>
+#include <fstream>
+#include <string_view>
+
+namespace Orv::FluidBench::IO {
+
+using Common::ErrorReport;
+using Common::pvtEnumErrorCode;
+using Common::pvtEnumPTPointType;
+using Common::Units;
+using Experiments::ExperimentResults;
+using Experiments::MSTExperiment;
+using Experiments::oilLikeFluidState;
+using Experiments::Stage;
+using Impl::IO::AppendNumber;
+using Impl::IO::CantOpenForWriting;
+using Impl::IO::FreeText;
+using Impl::IO::NumberFormat;
+using Impl::IO::OpenForWriting;
+using Model::CompositionalFluid;
+using Utilities::Equations;
+
+namespace {
+
+struct DepthTable {
+    const char* keyword;
+    const char* title;
+    const char* fieldUnits;
+    const char* metricUnits;
+};
+
+constexpr DepthTable compositions{"ZMFVD", "Total Composition vs Depth", "ft", "m"};
+constexpr DepthTable bubblePoints{"PBVD", "Pb vs Depth", "psia", "bar"};
+constexpr DepthTable dewPoints{"PDVD", "Pd vs Depth", "psia", "bar"};
+constexpr DepthTable dissolvedGas{"RSVD", "Rs vs Depth", "Field", "Metric "};
+constexpr DepthTable vaporisedOil{"RVVD", "Rv vs Depth", "Field", "Metric "};
+
+constexpr NumberFormat sixDigits{std::chars_format::general, 6};
+constexpr std::size_t depthWidth = 12;
+constexpr double depthTolerance = 0.001;
+
+double DepthOf(const Stage& stage) noexcept {
+    return stage.Results->Depth.GetValue();
+}
+
+// Puts `stage` among the others by depth, unless one of them is at its depth.
+void InsertStageByDepth(std::vector<Stage>& stages, const Stage& stage) {
+    const double depth = DepthOf(stage);
+    for (const Stage& present : stages) {
+        if (Equations::RelativeDoublesEqual(depth, DepthOf(present), depthTolerance)) {
+            return;
+        }
+    }
+    stages.push_back(stage);
+    // A depth that isn't a number has a place in this order, too.
+    std::ranges::stable_sort(stages, [](const Stage& first, const Stage& second) {
+        return std::strong_order(DepthOf(first), DepthOf(second)) < 0;
+    });
+}
+
+void BeginTable(std::ostream& out, const DepthTable& table, Units::UNIT_TYPE units) {
+    out << "-- Units: " << (units == Units::FIELD ? table.fieldUnits : table.metricUnits) << '\n'
+        << table.keyword << "\n-- \n-- " << table.title << "\n-- \n";
+}
+
+void EndTable(std::ostream& out) {
+    out << "/\n";
+}
+
+void AppendDepth(std::string& text, double depth, Units::UNIT_TYPE units) {
+    AppendNumber(text, units == Units::FIELD ? Units::Depth_m_to_ft(depth) : depth, sixDigits,
+                 depthWidth);
+}
+
+void WriteRow(std::ostream& out, double depth, double value, Units::UNIT_TYPE units) {
+    std::string row;
+    AppendDepth(row, depth, units);
+    row += '\t';
+    AppendNumber(row, value, sixDigits);
+    row += '\n';
+    out << row;
+}
+
+// The depth and the first fraction on a line, each further fraction on one of its own, and a line
+// of blanks behind them.
+void WriteComposition(std::ostream& out, const Stage& stage, const std::vector<std::string>& names,
+                      Units::UNIT_TYPE units) {
+    std::string block;
+    AppendDepth(block, DepthOf(stage), units);
+    for (const std::string& name : names) {
+        block += ' ';
+        AppendNumber(block,
+                     stage.Fluid.HasComponentWithGlobalName(name)
+                         ? stage.Fluid.GetComponentFractionByGlobalName(name)
+                         : 0.0,
+                     sixDigits);
+        block += '\n';
+        block.append(depthWidth, ' ');
+    }
+    block += '\n';
+    out << block;
+}
+
+ErrorReport EmptyResults() {
+    ErrorReport report;
+    report.Add(FreeText(pvtEnumErrorCode::Information, "Empty results"));
+    return report;
+}
+
+} // namespace
+
+bool PVOFileWriter::SwitchToLiquidRegion(bool hasContact, bool inLiquidRegion, double depth,
+                                         double contactDepth) const {
+    if (!hasContact || inLiquidRegion) {
+        return false;
+    }
+    return depth > contactDepth || Equations::DoublesEqual(contactDepth, depth, depthTolerance);
+}
+
+void PVOFileWriter::UpdateGOR(double& gasOilRatio, const Stage& stage) const {
+    if (stage.Results->GasOilRatio.IsSet) {
+        gasOilRatio += stage.Results->GasOilRatio.GetValue();
+    }
+}
+
+std::vector<Stage> PVOFileWriter::UpdateStageResults(const std::vector<Stage>& stages,
+                                                     const Stage& contactStage, bool hasContact,
+                                                     double& contactDepth) const {
+    std::vector<Stage> merged = stages;
+    if (hasContact) {
+        InsertStageByDepth(merged, contactStage);
+        contactDepth = DepthOf(contactStage);
+    }
+    return merged;
+}
+
+ErrorReport PVOFileWriter::ExportZMFVD(const CompositionalFluid& fluid,
+                                       const ExperimentResults& results,
+                                       const std::string& fileName, Units::UNIT_TYPE units) const {
+    ErrorReport report;
+    std::ofstream out = OpenForWriting(fileName);
+    if (!out.is_open()) {
+        report.Add(CantOpenForWriting(fileName));
+        return report;
+    }
+    std::vector<Stage> stages = results.Stages;
+    if (results.ContactStage.Results->Depth.IsSet) {
+        InsertStageByDepth(stages, results.ContactStage);
+    }
+    const std::vector<std::string> names = fluid.ListComponentsGlobalNames();
+
+    BeginTable(out, compositions, units);
+    for (const Stage& stage : stages) {
+        WriteComposition(out, stage, names, units);
+    }
+    EndTable(out);
+    out << FileUnitHeader(units == Units::METRIC);
+    return report;
+}
+
+ErrorReport PVOFileWriter::ExportPSATVD(const ExperimentResults& results,
+                                        const std::string& fileName, Units::UNIT_TYPE units) const {
+    ErrorReport report;
+    std::ofstream out = OpenForWriting(fileName);
+    if (!out.is_open()) {
+        report.Add(CantOpenForWriting(fileName));
+        return report;
+    }
+    if (results.Stages.empty()) {
+        return EmptyResults();
+    }
+    const bool hasContact = results.ContactStage.Results->Depth.IsSet;
+    double contactDepth = 0.0;
+    const std::vector<Stage> stages =
+        UpdateStageResults(results.Stages, results.ContactStage, hasContact, contactDepth);
+    const auto convert =
+        units == Units::FIELD ? Units::Pressure_Pa_To_psi : Units::Pressure_Pa_To_bar;
+
+    BeginTable(out, stages.front().LiquidPhase.Present() ? bubblePoints : dewPoints, units);
+    bool inLiquidRegion = false;
+    for (const Stage& stage : stages) {
+        if (!stage.Results->SaturationPressure.IsSet) {
+            continue;
+        }
+        const double depth = DepthOf(stage);
+        if (SwitchToLiquidRegion(hasContact, inLiquidRegion, depth, contactDepth)) {
+            inLiquidRegion = true;
+            EndTable(out);
+            BeginTable(out, bubblePoints, units);
+        }
+        WriteRow(out, depth, convert(stage.Results->SaturationPressure.GetValue()), units);
+    }
+    EndTable(out);
+    out << FileUnitHeader(units == Units::METRIC);
+    return report;
+}
+
+ErrorReport PVOFileWriter::ExportRSVD(const ExperimentResults& results, MSTExperiment experiment,
+                                      const std::vector<Stage>& separatorStages,
+                                      const std::string& fileName, Units::UNIT_TYPE units) const {
+    ErrorReport report;
+    std::ofstream out = OpenForWriting(fileName);
+    if (!out.is_open()) {
+        report.Add(CantOpenForWriting(fileName));
+        return report;
+    }
+    if (results.Stages.empty()) {
+        return EmptyResults();
+    }
+    const bool hasContact = results.ContactStage.Results->Depth.IsSet;
+    double contactDepth = 0.0;
+    const std::vector<Stage> stages =
+        UpdateStageResults(results.Stages, results.ContactStage, hasContact, contactDepth);
+
+    // The gas-oil ratios of all separator stages together, or its inverse; 0 without a ratio.
+    const auto separate = [&](const Stage& stage, bool isRs) {
+        const ExperimentResults run = experiment.RunExperiment(stage.Fluid, separatorStages,
+                                                               pvtEnumPTPointType::Default, true);
+        if (run.Failed || run.Stages.empty() || !run.Stages.back().Results->GasOilRatio.IsSet) {
+            return 0.0;
+        }
+        double total = 0.0;
+        for (const Stage& separatorStage : run.Stages) {
+            UpdateGOR(total, separatorStage);
+        }
+        const double ratio = units == Units::FIELD ? Units::GOR_m3m3_To_Mscfstb(total) : total;
+        return isRs ? ratio : 1.0 / ratio;
+    };
+
+    bool isRs = results.Stages.front().FluidState == oilLikeFluidState;
+    BeginTable(out, isRs ? dissolvedGas : vaporisedOil, units);
+    bool inLiquidRegion = false;
+    for (const Stage& stage : stages) {
+        if (!stage.Results->GasOilRatio.IsSet) {
+            continue;
+        }
+        const double depth = DepthOf(stage);
+        if (SwitchToLiquidRegion(hasContact, inLiquidRegion, depth, contactDepth)) {
+            inLiquidRegion = true;
+            isRs = true;
+            EndTable(out);
+            BeginTable(out, dissolvedGas, units);
+        }
+        WriteRow(out, depth, separate(stage, isRs), units);
+    }
+    EndTable(out);
+    out << FileUnitHeader(units == Units::METRIC);
+    return report;
+}
+
+} // namespace Orv::FluidBench::IO

@@ -1,0 +1,143 @@
+// The toolbox's black-oil tables: values without any computation behind them.
+#include "FluidBench/Model/BlackOilTable.h"
+
+#include "FluidBench/Model/BlackOilDataRecords.h"
+
+#include <cstddef>
+#include <iterator>
+#include <stdexcept>
+
+namespace Orv::FluidBench::Model {
+
+BlackOilDataRecords::BlackOilDataRecords() = default;
+BlackOilDataRecords::BlackOilDataRecords(const BlackOilDataRecords&) = default;
+BlackOilDataRecords::BlackOilDataRecords(BlackOilDataRecords&&) noexcept = default;
+BlackOilDataRecords& BlackOilDataRecords::operator=(const BlackOilDataRecords&) = default;
+BlackOilDataRecords& BlackOilDataRecords::operator=(BlackOilDataRecords&&) noexcept = default;
+BlackOilDataRecords::~BlackOilDataRecords() = default;
+
+std::uint64_t BlackOilDataRecords::GetTableSize() const noexcept {
+    return recordEnds_.size();
+}
+
+std::uint64_t BlackOilDataRecords::GetRecordContentSize(std::uint64_t record) const {
+    return End(record) - Begin(record);
+}
+
+double BlackOilDataRecords::GetPressure(std::uint64_t record, std::uint64_t entry) const {
+    return At(record, entry).pressure;
+}
+double BlackOilDataRecords::GetProperty(std::uint64_t record, std::uint64_t entry) const {
+    return At(record, entry).property;
+}
+double BlackOilDataRecords::GetFormationVolumeFactor(std::uint64_t record,
+                                                     std::uint64_t entry) const {
+    return At(record, entry).formationVolumeFactor;
+}
+double BlackOilDataRecords::GetViscosity(std::uint64_t record, std::uint64_t entry) const {
+    return At(record, entry).viscosity;
+}
+
+std::uint64_t BlackOilDataRecords::AddEntry(std::uint64_t record, double pressure, double property,
+                                            double formationVolumeFactor, double viscosity) {
+    const std::uint64_t records = recordEnds_.size();
+    if (record > records) {
+        throw std::out_of_range("A black-oil table gains its records one after another");
+    }
+    const Entry entry{pressure, property, formationVolumeFactor, viscosity};
+    if (record == records) {
+        entries_.push_back(entry);
+        recordEnds_.push_back(entries_.size());
+        return 0;
+    }
+    const std::uint64_t end = End(record);
+    entries_.insert(std::next(entries_.begin(), static_cast<std::ptrdiff_t>(end)), entry);
+    for (std::uint64_t i = record; i < records; ++i) {
+        ++recordEnds_[i];
+    }
+    return end - Begin(record);
+}
+
+const BlackOilDataRecords::Entry& BlackOilDataRecords::At(std::uint64_t record,
+                                                          std::uint64_t entry) const {
+    if (entry >= End(record) - Begin(record)) {
+        throw std::out_of_range("The record of the black-oil table has no such entry");
+    }
+    return entries_[Begin(record) + entry];
+}
+
+std::uint64_t BlackOilDataRecords::Begin(std::uint64_t record) const noexcept {
+    return record == 0 ? 0 : recordEnds_[record - 1];
+}
+
+std::uint64_t BlackOilDataRecords::End(std::uint64_t record) const {
+    if (record >= recordEnds_.size()) {
+        throw std::out_of_range("The black-oil table has no such record");
+    }
+    return recordEnds_[record];
+}
+
+BlackOilTable::BlackOilTable() = default;
+BlackOilTable::BlackOilTable(const BlackOilTable&) = default;
+BlackOilTable::BlackOilTable(BlackOilTable&&) noexcept = default;
+BlackOilTable& BlackOilTable::operator=(const BlackOilTable&) = default;
+BlackOilTable& BlackOilTable::operator=(BlackOilTable&&) noexcept = default;
+BlackOilTable::~BlackOilTable() = default;
+
+const BlackOilDataRecords& BlackOilTable::GetLiveOilData() const noexcept {
+    return liveOil_;
+}
+const BlackOilDataRecords& BlackOilTable::GetDeadOilData() const noexcept {
+    return deadOil_;
+}
+const BlackOilDataRecords& BlackOilTable::GetWetGasData() const noexcept {
+    return wetGas_;
+}
+const BlackOilDataRecords& BlackOilTable::GetDryGasData() const noexcept {
+    return dryGas_;
+}
+
+void BlackOilTable::SetLiveOilData(const BlackOilDataRecords& records) {
+    liveOil_ = records;
+}
+void BlackOilTable::SetDeadOilData(const BlackOilDataRecords& records) {
+    deadOil_ = records;
+}
+void BlackOilTable::SetWetGasData(const BlackOilDataRecords& records) {
+    wetGas_ = records;
+}
+void BlackOilTable::SetDryGasData(const BlackOilDataRecords& records) {
+    dryGas_ = records;
+}
+
+double BlackOilTable::GetOilDensity() const noexcept {
+    return oilDensity_;
+}
+double BlackOilTable::GetGasDensity() const noexcept {
+    return gasDensity_;
+}
+double BlackOilTable::GetWaterDensity() const noexcept {
+    return waterDensity_;
+}
+void BlackOilTable::SetOilDensity(double density) noexcept {
+    oilDensity_ = density;
+}
+void BlackOilTable::SetGasDensity(double density) noexcept {
+    gasDensity_ = density;
+}
+void BlackOilTable::SetWaterDensity(double density) noexcept {
+    waterDensity_ = density;
+}
+
+double BlackOilTable::GetSaturationPointRs() const noexcept {
+    return saturationRs_;
+}
+double BlackOilTable::GetSaturationPointPressure() const noexcept {
+    return saturationPressure_;
+}
+void BlackOilTable::SetSaturationPoint(double rs, double pressure) noexcept {
+    saturationRs_ = rs;
+    saturationPressure_ = pressure;
+}
+
+} // namespace Orv::FluidBench::Model

@@ -1,0 +1,238 @@
+#include "BlackOilFormatters.h"
+#include "TestSupport.h"
+#include "io/BlackOilExportFileWriter.h"
+
+#include <sstream>
+#include <stdexcept>
+
+using namespace Orv::FluidBench;
+using namespace FluidBenchTest;
+using Common::Units;
+using IO::BlackOilExportFileWriter;
+using Model::BlackOilDataRecords;
+using Model::BlackOilTable;
+using Writer = BlackOilExportFileWriter;
+
+namespace {
+
+struct Row {
+    double bar, ratio, volumeFactor, centipoise;
+};
+
+BlackOilDataRecords Records(const std::vector<std::vector<Row>>& table) {
+    BlackOilDataRecords records;
+    for (std::uint64_t i = 0; i < table.size(); ++i) {
+        for (const Row& row : table[i]) {
+            records.AddEntry(i, row.bar * 1e5, row.ratio, row.volumeFactor, row.centipoise * 1e-3);
+        }
+    }
+    return records;
+}
+
+BlackOilTable Sample() {
+    BlackOilTable table;
+    table.SetOilDensity(800.0);
+    table.SetWaterDensity(1025.0); // the files have 1000
+    table.SetGasDensity(1.2);
+    table.SetSaturationPoint(50.0, 100e5);
+    table.SetLiveOilData(Records({{{100, 50, 1.2, 0.5}, {150, 50, 1.18, 0.55}}, //
+                                  {{200, 100, 1.3, 0.4}}}));
+    table.SetDeadOilData(
+        Records({{{100, 30, 1.08, 1.1}, {250, 30, 1.07, 1.25}, {400, 30, 1.06, 1.4}}}));
+    table.SetWetGasData(Records({{{150, 1e-4, 0.01, 0.02}, {150, 0, 0.011, 0.021}}}));
+    table.SetDryGasData(Records({{{100, 0, 0.012, 0.015}, {150, 0, 0.008, 0.017}}, //
+                                 {{200, 0, 0.006, 0.019}}}));
+    return table;
+}
+
+// Densities, and the pressures of each record in bar: "800 1000 1.2 oil 100 150; 200; gas 150;".
+std::string Summary(const BlackOilTable& table) {
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text << table.GetOilDensity() << ' ' << table.GetWaterDensity() << ' ' << table.GetGasDensity();
+    for (const auto* const records : {&table.GetLiveOilData(), &table.GetWetGasData()}) {
+        text << (records == &table.GetLiveOilData() ? " oil" : " gas");
+        for (std::uint64_t i = 0; i < records->GetTableSize(); ++i) {
+            for (std::uint64_t j = 0; j < records->GetRecordContentSize(i); ++j) {
+                text << ' ' << records->GetPressure(i, j) / 1e5;
+            }
+            text << ';';
+        }
+    }
+    return text.str();
+}
+
+class BlackOil : public testing::Test {
+protected:
+    std::string Export(Units::UNIT_TYPE units, Writer::EXPORT_TYPE exportType,
+                       Writer::FILE_TYPE fileType, const BlackOilTable& table = Sample()) {
+        const std::string path = folder / "exported";
+        EXPECT_TRUE(
+            MessageIds(writer.ExportToFile(table, path, units, exportType, fileType)).empty());
+        return ReadFile(path);
+    }
+    BlackOilTable Read(std::string_view text) {
+        return writer.GetTableFromCSVFile(folder.Write("read.csv", text));
+    }
+
+    TemporaryFolder folder;
+    Writer writer;
+};
+
+} // namespace
+
+TEST_F(BlackOil, FilesOfEveryExportType) {
+    const ForeignGlobalLocale foreign;
+    const char* const names[] = {"live-oil-wet-gas", "live-oil-dry-gas", "dead-oil-wet-gas",
+                                 "dead-oil-dry-gas"};
+    for (int type = 0; type < 4; ++type) {
+        for (const auto units : {Units::METRIC, Units::FIELD}) {
+            const std::string golden = std::string("black-oil/") + names[type] +
+                                       (units == Units::METRIC ? "-metric" : "-field");
+            const auto exportType = static_cast<Writer::EXPORT_TYPE>(type);
+            EXPECT_EQ(Export(units, exportType, Writer::PVO), ReadData(golden + ".txt")) << golden;
+            EXPECT_EQ(Export(units, exportType, Writer::CSV), ReadData(golden + ".csv")) << golden;
+        }
+    }
+}
+
+TEST_F(BlackOil, ChoicesOutsideTheirLists) {
+    EXPECT_EQ(Export(Units::METRIC, static_cast<Writer::EXPORT_TYPE>(7), Writer::PVO),
+              ReadData("black-oil/no-tables-metric.txt"));
+    EXPECT_EQ(Export(Units::METRIC, Writer::LIVE_OIL_WET_GAS, static_cast<Writer::FILE_TYPE>(-1)),
+              ReadData("black-oil/live-oil-wet-gas-metric.csv"));
+    std::string lab = ReadData("black-oil/live-oil-wet-gas-metric.txt");
+    lab.replace(lab.find("METRIC"), 6, "FIELD");
+    EXPECT_EQ(Export(Units::LAB, Writer::LIVE_OIL_WET_GAS, Writer::PVO), lab);
+}
+
+TEST_F(BlackOil, HighPrecision) {
+    writer = Writer(true);
+    EXPECT_NE(Export(Units::METRIC, Writer::DEAD_OIL_WET_GAS, Writer::PVO)
+                  .find("\n\t       \t100.000000000000000\t1.080000000000000\t1.100000000000000\n"),
+              std::string::npos);
+}
+
+TEST_F(BlackOil, NarrowCellsAreFilledUpToTheirWidth) {
+    std::ostringstream out;
+    out.imbue(ForeignLocale());
+    out << std::fixed;
+    out.precision(1);
+    IO::PVOFormatter wet(Units::METRIC, Writer::LIVE_OIL_WET_GAS);
+    IO::PVOFormatter dry(Units::METRIC, Writer::DEAD_OIL_DRY_GAS);
+    wet.OilTableEntry(out, 1234e5, 50.0, 1.2, 0.5e-3, true);
+    wet.GasTableEntry(out, 1234e5, 0.1, 0.2, 0.3e-3, true);
+    dry.GasTableEntry(out, 1234e5, 0.1, 0.2, 0.3e-3, true);
+    dry.SurfaceDensities(out, 800.0, 1000.0, 1.2);
+    EXPECT_EQ(out.str().substr(0, out.str().find('-')), "\t    50.0\t  1234.0\t     1.2\t     0.5"
+                                                        "\t  1234.0\t0.1\t     0.2\t     0.3"
+                                                        "\t  1234.0\t\t     0.2\t     0.3");
+    EXPECT_NE(out.str().find("\n       800.0\t1000.0\t1.2\n"), std::string::npos);
+}
+
+TEST_F(BlackOil, CompositionsAgainstPressure) {
+    Model::CompositionalFluid fluid("");
+    fluid.SetComponent(Model::FluidComponent("C1"), 0.5);
+    fluid.SetComponent(Model::FluidComponent("C10"), 0.5);
+    Experiments::ExperimentResults results;
+    for (const double bar : {250.0, 200.0}) {
+        Experiments::Stage stage;
+        stage.Results->Pressure = {true, bar * 1e5};
+        stage.VapourPhase.SetPresent(bar < 210.0);
+        stage.VapourPhase.Composition = {0.9, 0.1}; // not read where the phase isn't present
+        stage.LiquidPhase.SetPresent(true);
+        stage.LiquidPhase.Composition = {bar < 210.0 ? 0.5 : 0.6, bar < 210.0 ? 0.5 : 0.4};
+        results.Stages.push_back(stage);
+    }
+    const std::string path = folder / "compositions";
+    for (const auto units : {Units::METRIC, Units::FIELD}) {
+        writer.ExportXMFYMFVP(fluid, results, path, units);
+        EXPECT_EQ(ReadFile(path),
+                  ReadData(units == Units::METRIC ? "black-oil/compositions-metric.txt"
+                                                  : "black-oil/compositions-field.txt"));
+    }
+    Writer(true).ExportXMFYMFVP(fluid, results, path, Units::METRIC);
+    EXPECT_NE(ReadFile(path).find("\n200.000000000000000 0.900000000000000\n"), std::string::npos);
+    writer.ExportXMFYMFVP(fluid, {}, path, Units::METRIC);
+    EXPECT_EQ(ReadFile(path),
+              "-- Units: bar\nYMFVP\n-- \n-- Vapour Composition vs Pressure\n-- \n/\n"
+              "-- Units: bar\nXMFVP\n-- \n-- Liquid Composition vs Pressure\n-- \n/\n"
+              "\nFILEUNIT\nMETRIC\n/\n");
+}
+
+TEST_F(BlackOil, PathsThatCannotBeOpened) {
+    for (const std::string& path : {folder.Path().string(), folder / "missing/file"}) {
+        const auto report =
+            writer.ExportToFile({}, path, Units::METRIC, Writer::LIVE_OIL_WET_GAS, Writer::CSV);
+        EXPECT_EQ(MessageIds(report), std::vector<std::int32_t>{3369});
+        EXPECT_EQ(report.GetMessages().front().GetParameters(), std::vector<std::string>{path});
+        EXPECT_EQ(MessageIds(writer.ExportXMFYMFVP(Model::CompositionalFluid(""), {}, path,
+                                                   Units::METRIC)),
+                  std::vector<std::int32_t>{3369});
+        EXPECT_EQ(Summary(writer.GetTableFromCSVFile(path)), "0 0 0 oil gas");
+    }
+}
+
+TEST_F(BlackOil, WhatWasWrittenReadsBack) {
+    const ForeignGlobalLocale foreign;
+    for (const auto exportType : {Writer::LIVE_OIL_WET_GAS, Writer::DEAD_OIL_DRY_GAS}) {
+        const std::string text = Export(Units::METRIC, exportType, Writer::CSV);
+        BlackOilTable table = Read(text);
+        table.SetSaturationPoint(50.0, 100e5);
+        table.SetDeadOilData(table.GetLiveOilData());
+        table.SetDryGasData(table.GetWetGasData());
+        EXPECT_EQ(Export(Units::METRIC, exportType, Writer::CSV, table), text);
+    }
+    const BlackOilTable table = Read(Export(Units::FIELD, Writer::LIVE_OIL_WET_GAS, Writer::CSV));
+    EXPECT_EQ(Summary(table), "800 1000 1.2 oil 100 150; 200; gas 150 150;");
+    EXPECT_DOUBLE_EQ(table.GetLiveOilData().GetProperty(1, 0), 100.0);
+    EXPECT_DOUBLE_EQ(table.GetLiveOilData().GetFormationVolumeFactor(0, 1), 1.18);
+    EXPECT_DOUBLE_EQ(table.GetWetGasData().GetProperty(0, 0), 1e-4);
+    EXPECT_DOUBLE_EQ(table.GetWetGasData().GetViscosity(0, 1), 0.021e-3);
+    EXPECT_EQ(Summary(Read(Export(Units::METRIC, Writer::DEAD_OIL_DRY_GAS, Writer::CSV))),
+              "800 1000 1.2 oil 100 250 400; gas 100 150 200;");
+}
+
+TEST_F(BlackOil, TextThatTheReaderMeets) {
+    struct Case {
+        std::string text;
+        const char* summary;
+    };
+    const std::string million(1'000'000, '\n');
+    const Case cases[] = {
+        {"", "0 0 0 oil gas"},
+        {std::string("\0\xff,\0,,,,\n", 9), "0 0 0 oil gas"},
+        {"ODEN,800\nOden,801\n oden,802\nwden, 1e3x\nGDEN,\nunits,1\nDENS,3\nFILEUNIT\n",
+         "801 1000 0 oil gas"},
+        // Cells: the first isn't read, a missing number is 0, and what follows the fifth is
+        // dropped.
+        {"pvto,\nx,1,2,3,4,5\n,1,a,3,4\n1,2,3,4\n,1, 4bar ,,\nunits, 1\n\n,1,5,3,4",
+         "0 0 0 oil 2 0 4; 5; gas"},
+        {"PVTO,\r\n,1,2,3,4\r\n\r\n,1,3,3,4\r\n\r\nUnits, METRIC\r\nPVTG,\r\n,2,1,3,4\r\n",
+         "0 0 0 oil 2; 3; gas 2;"},
+        {"PVTG, PSAT\n,7,1,2,3\n\nUnits, METRIC\nPVTO, Rs, PSAT, Bo, Muo\n,8,1,2,3\n",
+         "0 0 0 oil gas 7; 0 8;"},
+        {"PVTO,\n,1,2,3,4\nUnits\nPVTO,\n,1,9,3,4\n\n,no row\n,1,8,3,4\nUnits\n",
+         "0 0 0 oil 9; 8; gas"},
+        {"PVTO,\n" + million + ",1,2,3,4\n" + million + ",1,3,3,4\n", "0 0 0 oil 2; 3; gas"},
+        {"PVTO,\n,1,2,3," + std::string(1'000'000, ',') + "\n,1,3,3,4\n" +
+             std::string(1'000'000, 'x'),
+         "0 0 0 oil 2 3; gas"},
+    };
+    for (const Case& each : cases) {
+        EXPECT_EQ(Summary(Read(each.text)), each.summary) << each.text.substr(0, 80);
+    }
+}
+
+TEST(BlackOilDataRecords, EntriesOfEarlierRecordsAndBadIndices) {
+    BlackOilDataRecords records = Records({{{1, 0, 0, 0}}, {{2, 0, 0, 0}}});
+    EXPECT_THROW(records.AddEntry(3, 0, 0, 0, 0), std::out_of_range);
+    EXPECT_EQ(records.AddEntry(0, 3e5, 0, 0, 0), 1U);
+    EXPECT_EQ(records.AddEntry(2, 4e5, 0, 0, 0), 0U);
+    BlackOilTable table;
+    table.SetLiveOilData(records);
+    EXPECT_EQ(Summary(table), "0 0 0 oil 1 3; 2; 4; gas");
+    EXPECT_THROW(records.GetPressure(0, 2), std::out_of_range);
+    EXPECT_THROW(records.GetViscosity(3, 0), std::out_of_range);
+    EXPECT_THROW(records.GetRecordContentSize(3), std::out_of_range);
+}
