@@ -8,15 +8,12 @@
 
 namespace Orv::FluidBench::Impl::IO {
 
-namespace {
-
-constexpr std::size_t blockSize = std::size_t{64} * 1024;
-
-} // namespace
-
-std::ofstream OpenForWriting(const std::string& fileName) {
+std::ofstream OpenForWriting(const std::string& fileName, std::span<char> buffer) {
     std::ofstream file;
     file.imbue(std::locale::classic());
+    if (!buffer.empty()) { // an open file doesn't take another buffer
+        file.rdbuf()->pubsetbuf(buffer.data(), static_cast<std::streamsize>(buffer.size()));
+    }
     file.open(fileName, std::ios_base::out | std::ios_base::trunc);
     return file;
 }

@@ -4,15 +4,22 @@
 #include <cstddef>
 #include <fstream>
 #include <limits>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace Orv::FluidBench::Impl::IO {
 
+/// How much large files are read and written at once.
+inline constexpr std::size_t blockSize = std::size_t{64} * 1024;
+
 /// Opens a text file for writing, which empties an existing one. The stream is in the classic
 /// locale whatever the program's global locale is. It isn't open where the file can't be written.
-std::ofstream OpenForWriting(const std::string& fileName);
+///
+/// A writer of large files gives a buffer of `blockSize`, which makes fewer and larger writes of
+/// its text than a stream's own; the buffer has to outlive the stream.
+std::ofstream OpenForWriting(const std::string& fileName, std::span<char> buffer = {});
 
 /// Opens a text file for reading. The stream isn't open where the file is missing, unreadable or a
 /// folder.

@@ -30,6 +30,7 @@ using Common::Units;
 using Experiments::ExperimentResults;
 using Experiments::Stage;
 using Impl::IO::AppendNumber;
+using Impl::IO::blockSize;
 using Impl::IO::CantOpenForWriting;
 using Impl::IO::NumberFormat;
 using Impl::IO::OpenForWriting;
@@ -112,7 +113,8 @@ ErrorReport BlackOilExportFileWriter::ExportToFile(const BlackOilTable& table,
                                                    Units::UNIT_TYPE units, EXPORT_TYPE exportType,
                                                    FILE_TYPE fileType) const {
     ErrorReport report;
-    std::ofstream out = OpenForWriting(fileName);
+    std::vector<char> buffer(blockSize);
+    std::ofstream out = OpenForWriting(fileName, buffer);
     if (!out.is_open()) {
         report.Add(CantOpenForWriting(fileName));
         return report;

@@ -58,25 +58,6 @@ std::uint64_t BlackOilDataRecords::AddEntry(std::uint64_t record, double pressur
     return end - Begin(record);
 }
 
-const BlackOilDataRecords::Entry& BlackOilDataRecords::At(std::uint64_t record,
-                                                          std::uint64_t entry) const {
-    if (entry >= End(record) - Begin(record)) {
-        throw std::out_of_range("The record of the black-oil table has no such entry");
-    }
-    return entries_[Begin(record) + entry];
-}
-
-std::uint64_t BlackOilDataRecords::Begin(std::uint64_t record) const noexcept {
-    return record == 0 ? 0 : recordEnds_[record - 1];
-}
-
-std::uint64_t BlackOilDataRecords::End(std::uint64_t record) const {
-    if (record >= recordEnds_.size()) {
-        throw std::out_of_range("The black-oil table has no such record");
-    }
-    return recordEnds_[record];
-}
-
 BlackOilTable::BlackOilTable() = default;
 BlackOilTable::BlackOilTable(const BlackOilTable&) = default;
 BlackOilTable::BlackOilTable(BlackOilTable&&) noexcept = default;

@@ -4,6 +4,7 @@
 #include "Visibility.h"
 
 #include <cstdint>
+#include <stdexcept>
 #include <vector>
 
 namespace Orv::FluidBench::Model {
@@ -54,9 +55,17 @@ private:
         double viscosity;
     };
 
-    const Entry& At(std::uint64_t record, std::uint64_t entry) const;
-    std::uint64_t Begin(std::uint64_t record) const noexcept;
-    std::uint64_t End(std::uint64_t record) const;
+    // Inline, so that a getter isn't four calls.
+    std::uint64_t Begin(std::uint64_t record) const noexcept {
+        return record == 0 ? 0 : recordEnds_[record - 1];
+    }
+    std::uint64_t End(std::uint64_t record) const { return recordEnds_.at(record); }
+    const Entry& At(std::uint64_t record, std::uint64_t entry) const {
+        if (entry >= End(record) - Begin(record)) {
+            throw std::out_of_range("The record of the black-oil table has no such entry");
+        }
+        return entries_[Begin(record) + entry];
+    }
 
     std::vector<Entry> entries_;            // record after record
     std::vector<std::uint64_t> recordEnds_; // one past the last entry of each record
