@@ -18,6 +18,7 @@ public:
     explicit CommandFailed(const std::string& reason = {}) : std::runtime_error(reason) {}
 };
 
+void AddBlackOilCommands(CLI::App& program);
 void AddDfaCommands(CLI::App& program);
 void AddMflCommands(CLI::App& program);
 

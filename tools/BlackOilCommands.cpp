@@ -1,0 +1,283 @@
+// fluidbench-io blackoil: shows black-oil CSV files and converts them.
+#include "Commands.h"
+#include "FluidBench/Common/Units.h"
+#include "FluidBench/Model/BlackOilTable.h"
+#include "Reports.h"
+#include "Table.h"
+#include "io/BlackOilExportFileWriter.h"
+
+#include <CLI/CLI.hpp>
+
+#include <charconv>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace FluidBenchTool {
+
+using Orv::FluidBench::Common::Units;
+using Orv::FluidBench::IO::BlackOilExportFileWriter;
+using Orv::FluidBench::Model::BlackOilDataRecords;
+using Orv::FluidBench::Model::BlackOilTable;
+
+namespace {
+
+using Writer = BlackOilExportFileWriter;
+
+const std::map<std::string, Units::UNIT_TYPE> unitChoices{{"metric", Units::METRIC},
+                                                          {"field", Units::FIELD}};
+const std::map<std::string, Writer::FILE_TYPE> forms{{"keyword", Writer::PVO},
+                                                     {"csv", Writer::CSV}};
+const std::map<std::string, Writer::EXPORT_TYPE> tableChoices{
+    {"live-wet", Writer::LIVE_OIL_WET_GAS},
+    {"live-dry", Writer::LIVE_OIL_DRY_GAS},
+    {"dead-wet", Writer::DEAD_OIL_WET_GAS},
+    {"dead-dry", Writer::DEAD_OIL_DRY_GAS}};
+
+// The number behind "KEY," at the head of a line.
+std::optional<double> NumberOfKey(std::string_view line, std::string_view key) {
+    if (!line.starts_with(key)) {
+        return std::nullopt;
+    }
+    line.remove_prefix(key.size());
+    double value = 0.0;
+    const auto error = std::from_chars(line.data(), line.data() + line.size(), value).ec;
+    return error == std::errc() ? std::optional(value) : std::nullopt;
+}
+
+// The two lines of a file that the library's reader passes over, so that a conversion keeps them.
+void ReadSaturationPoint(std::istream& file, BlackOilTable& table) {
+    double ratio = 0.0;
+    double pressure = 0.0;
+    for (std::string line; std::getline(file, line) && !line.starts_with("PVT");) {
+        ratio = NumberOfKey(line, "RSCONST,").value_or(ratio);
+        pressure = NumberOfKey(line, "PSAT,").value_or(pressure);
+    }
+    table.SetSaturationPoint(ratio, pressure);
+}
+
+// The library's reader gives an empty table for what it can't read; here that is a failure.
+BlackOilTable ReadTable(const std::string& fileName) {
+    std::ifstream file(fileName);
+    if (!file.is_open() || std::filesystem::is_directory(fileName)) {
+        throw CommandFailed("'" + fileName + "' can't be opened for reading.");
+    }
+    BlackOilTable table = Writer().GetTableFromCSVFile(fileName);
+    if (table.GetLiveOilData().GetTableSize() == 0 && table.GetWetGasData().GetTableSize() == 0) {
+        throw CommandFailed("'" + fileName +
+                            "' holds no black-oil table: no line that begins with \"PVTO,\" or "
+                            "\"PVTG,\" has rows of five cells below it.");
+    }
+    ReadSaturationPoint(file, table);
+    return table;
+}
+
+template <typename Visit>
+void ForEachRow(const BlackOilDataRecords& records, Visit visit) {
+    for (std::uint64_t record = 0; record < records.GetTableSize(); ++record) {
+        const std::uint64_t entries = records.GetRecordContentSize(record);
+        for (std::uint64_t entry = 0; entry < entries; ++entry) {
+            visit(record, entry);
+        }
+    }
+}
+
+// The rows, each in a record of its own: a dry gas row shows its pressure only as a record's first.
+BlackOilDataRecords RecordPerRow(const BlackOilDataRecords& records) {
+    BlackOilDataRecords rows;
+    ForEachRow(records, [&](std::uint64_t record, std::uint64_t entry) {
+        rows.AddEntry(rows.GetTableSize(), records.GetPressure(record, entry),
+                      records.GetProperty(record, entry),
+                      records.GetFormationVolumeFactor(record, entry),
+                      records.GetViscosity(record, entry));
+    });
+    return rows;
+}
+
+// A table by pressure alone has one row for each pressure.
+void WarnUnlessPressureRises(const BlackOilDataRecords& records, const std::string& kind) {
+    std::optional<double> previous;
+    bool rises = true;
+    ForEachRow(records, [&](std::uint64_t record, std::uint64_t entry) {
+        const double pressure = records.GetPressure(record, entry);
+        rises = rises && (!previous || pressure > *previous);
+        previous = pressure;
+    });
+    if (!rises) {
+        std::cerr << "warning: A " << kind
+                  << " table has one row for each pressure, by rising pressure. The rows of this "
+                     "file don't follow that; all of them were written as they are.\n";
+    }
+}
+
+// The reader takes all rows for live oil and wet gas. Puts them where the choice reads them.
+void MoveRows(BlackOilTable& table, Writer::EXPORT_TYPE tables) {
+    if (tables == Writer::DEAD_OIL_WET_GAS || tables == Writer::DEAD_OIL_DRY_GAS) {
+        table.SetDeadOilData(table.GetLiveOilData());
+        WarnUnlessPressureRises(table.GetDeadOilData(), "dead oil");
+    }
+    if (tables == Writer::LIVE_OIL_DRY_GAS || tables == Writer::DEAD_OIL_DRY_GAS) {
+        table.SetDryGasData(RecordPerRow(table.GetWetGasData()));
+        WarnUnlessPressureRises(table.GetDryGasData(), "dry gas");
+    }
+}
+
+struct Conversion {
+    std::string input;
+    std::string output;
+    Writer::FILE_TYPE form = Writer::PVO;
+    Units::UNIT_TYPE units = Units::METRIC;
+    Writer::EXPORT_TYPE tables = Writer::LIVE_OIL_WET_GAS;
+    bool highPrecision = false;
+};
+
+void Convert(const Conversion& conversion) {
+    constexpr double writtenWaterDensity = 1000.0;
+    BlackOilTable table = ReadTable(conversion.input);
+    if (table.GetWaterDensity() != 0.0 && table.GetWaterDensity() != writtenWaterDensity) {
+        std::cerr << "warning: Files are written with a water density of 1000 kg/m3; that of '"
+                  << conversion.input << "' is " << NumberText(table.GetWaterDensity()) << ".\n";
+    }
+    MoveRows(table, conversion.tables);
+    TellReport(Writer(conversion.highPrecision)
+                   .ExportToFile(table, conversion.output, conversion.units, conversion.tables,
+                                 conversion.form));
+}
+
+// The columns of a table, in the units shown.
+struct Columns {
+    const char* name;
+    std::vector<std::string> headings;
+    double (*pressure)(double);
+    double (*ratio)(double);
+    double (*volumeFactor)(double);
+};
+
+double AsItIs(double value) {
+    return value;
+}
+
+Columns OilColumns(bool field) {
+    return field
+               ? Columns{"Oil",
+                         {"record", "GOR Mscf/stb", "pressure psia", "FVF rb/stb", "viscosity cP"},
+                         Units::Pressure_Pa_To_psi,
+                         Units::VolumeRatio_m3m3_to_mscfbbl,
+                         Units::VolumeRatio_m3m3_to_bblbbl}
+               : Columns{"Oil",
+                         {"record", "GOR m3/m3", "pressure bar", "FVF m3/m3", "viscosity cP"},
+                         Units::Pressure_Pa_To_bar,
+                         AsItIs,
+                         AsItIs};
+}
+
+Columns GasColumns(bool field) {
+    return field
+               ? Columns{"Gas",
+                         {"record", "OGR stb/Mscf", "pressure psia", "FVF rb/Mscf", "viscosity cP"},
+                         Units::Pressure_Pa_To_psi,
+                         Units::VolumeRatio_m3m3_to_bblmscf,
+                         Units::VolumeRatio_m3m3_to_bblmscf}
+               : Columns{"Gas",
+                         {"record", "OGR m3/m3", "pressure bar", "FVF m3/m3", "viscosity cP"},
+                         Units::Pressure_Pa_To_bar,
+                         AsItIs,
+                         AsItIs};
+}
+
+void PrintRecords(const BlackOilDataRecords& records, const Columns& columns) {
+    std::cout << '\n' << columns.name << '\n';
+    if (records.GetTableSize() == 0) {
+        std::cout << "  No rows.\n";
+        return;
+    }
+    Table table(columns.headings);
+    ForEachRow(records, [&](std::uint64_t record, std::uint64_t entry) {
+        table.AddRow(
+            {entry == 0 ? std::to_string(record + 1) : std::string(),
+             NumberText(columns.ratio(records.GetProperty(record, entry))),
+             NumberText(columns.pressure(records.GetPressure(record, entry))),
+             NumberText(columns.volumeFactor(records.GetFormationVolumeFactor(record, entry))),
+             NumberText(Units::Viscosity_Pas_To_cp(records.GetViscosity(record, entry)))});
+    });
+    table.Print(std::cout, 2);
+}
+
+void Show(const std::string& fileName, Units::UNIT_TYPE units) {
+    const BlackOilTable table = ReadTable(fileName);
+    const bool field = units == Units::FIELD;
+    const auto density = field ? Units::Density_kgm3_To_lbft3 : AsItIs;
+    const Columns oil = OilColumns(field);
+    Table summary({"quantity", "value", "unit"});
+    const auto add = [&](const char* name, double value, const char* metric,
+                         const char* fieldUnit) {
+        summary.AddRow({name, NumberText(value), field ? fieldUnit : metric});
+    };
+    add("oil density", density(table.GetOilDensity()), "kg/m3", "lb/ft3");
+    add("water density", density(table.GetWaterDensity()), "kg/m3", "lb/ft3");
+    add("gas density", density(table.GetGasDensity()), "kg/m3", "lb/ft3");
+    add("GOR at saturation", oil.ratio(table.GetSaturationPointRs()), "m3/m3", "Mscf/stb");
+    add("saturation pressure", oil.pressure(table.GetSaturationPointPressure()), "bar", "psia");
+    summary.Print(std::cout);
+    PrintRecords(table.GetLiveOilData(), oil);
+    PrintRecords(table.GetWetGasData(), GasColumns(field));
+}
+
+// An option whose value is one of the words of `choices`.
+template <typename Value>
+void AddChoice(CLI::App& command, const std::string& name, Value& value,
+               const std::map<std::string, Value>& choices, const std::string& description) {
+    command
+        .add_option_function<std::string>(
+            name, [&value, &choices](const std::string& word) { value = choices.at(word); },
+            description)
+        ->check(CLI::IsMember(choices));
+}
+
+void AddConvert(CLI::App& blackoil) {
+    CLI::App* const convert = blackoil.add_subcommand(
+        "convert", "Write a CSV file as keywords for a simulator, or as CSV anew");
+    const auto conversion = std::make_shared<Conversion>();
+    convert->add_option("IN", conversion->input, "The CSV file to read")->required();
+    convert
+        ->add_option("OUT", conversion->output, "The file to write; one that is there is replaced")
+        ->required();
+    AddChoice(*convert, "--form", conversion->form, forms, "keyword, unless given");
+    AddChoice(*convert, "--units", conversion->units, unitChoices,
+              "metric, unless given. The numbers of the csv form are metric always");
+    AddChoice(
+        *convert, "--tables", conversion->tables, tableChoices,
+        "live-wet, unless given, writes PVTO and PVTG; live-dry writes PVTO and PVDG; dead-wet "
+        "PVDO and PVTG; dead-dry PVDO and PVDG. All rows of the file go into these tables, "
+        "whichever it was written from");
+    convert->add_flag("--high-precision", conversion->highPrecision, "15 decimals in place of 8");
+    convert->callback([conversion] { Convert(*conversion); });
+}
+
+void AddShow(CLI::App& blackoil) {
+    CLI::App* const show =
+        blackoil.add_subcommand("show", "Show the densities and tables of a CSV file");
+    const auto fileName = std::make_shared<std::string>();
+    const auto units = std::make_shared<Units::UNIT_TYPE>(Units::METRIC);
+    show->add_option("IN", *fileName, "The CSV file")->required();
+    AddChoice(*show, "--units", *units, unitChoices, "metric, unless given");
+    show->callback([fileName, units] { Show(*fileName, *units); });
+}
+
+} // namespace
+
+void AddBlackOilCommands(CLI::App& program) {
+    CLI::App* const blackoil =
+        program.add_subcommand("blackoil", "Black-oil tables in comma-separated files");
+    blackoil->require_subcommand(1);
+    AddConvert(*blackoil);
+    AddShow(*blackoil);
+}
+
+} // namespace FluidBenchTool
