@@ -24,7 +24,6 @@
 #include <algorithm>
 #include <compare>
 #include <fstream>
-#include <string_view>
 
 namespace Orv::FluidBench::IO {
 
@@ -123,6 +122,17 @@ void WriteComposition(std::ostream& out, const Stage& stage, const std::vector<s
     }
     block += '\n';
     out << block;
+}
+
+bool GivesRatio(const ExperimentResults& run) {
+    return !run.Failed && !run.Stages.empty() && run.Stages.back().Results->GasOilRatio.IsSet;
+}
+
+// Vaporised oil is the inverse of the gas-oil ratio.
+double RatioOfTable(double gasOilRatio, bool isRs, Units::UNIT_TYPE units) {
+    const double ratio =
+        units == Units::FIELD ? Units::GOR_m3m3_To_Mscfstb(gasOilRatio) : gasOilRatio;
+    return isRs ? ratio : 1.0 / ratio;
 }
 
 ErrorReport EmptyResults() {
@@ -236,21 +246,6 @@ ErrorReport PVOFileWriter::ExportRSVD(const ExperimentResults& results, MSTExper
     const std::vector<Stage> stages =
         UpdateStageResults(results.Stages, results.ContactStage, hasContact, contactDepth);
 
-    // The gas-oil ratios of all separator stages together, or its inverse; 0 without a ratio.
-    const auto separate = [&](const Stage& stage, bool isRs) {
-        const ExperimentResults run = experiment.RunExperiment(stage.Fluid, separatorStages,
-                                                               pvtEnumPTPointType::Default, true);
-        if (run.Failed || run.Stages.empty() || !run.Stages.back().Results->GasOilRatio.IsSet) {
-            return 0.0;
-        }
-        double total = 0.0;
-        for (const Stage& separatorStage : run.Stages) {
-            UpdateGOR(total, separatorStage);
-        }
-        const double ratio = units == Units::FIELD ? Units::GOR_m3m3_To_Mscfstb(total) : total;
-        return isRs ? ratio : 1.0 / ratio;
-    };
-
     bool isRs = results.Stages.front().FluidState == oilLikeFluidState;
     BeginTable(out, isRs ? dissolvedGas : vaporisedOil, units);
     bool inLiquidRegion = false;
@@ -265,7 +260,17 @@ ErrorReport PVOFileWriter::ExportRSVD(const ExperimentResults& results, MSTExper
             EndTable(out);
             BeginTable(out, dissolvedGas, units);
         }
-        WriteRow(out, depth, separate(stage, isRs), units);
+        const ExperimentResults run = experiment.RunExperiment(stage.Fluid, separatorStages,
+                                                               pvtEnumPTPointType::Default, true);
+        double ratio = 0.0;
+        if (GivesRatio(run)) {
+            double total = 0.0;
+            for (const Stage& separatorStage : run.Stages) {
+                UpdateGOR(total, separatorStage);
+            }
+            ratio = RatioOfTable(total, isRs, units);
+        }
+        WriteRow(out, depth, ratio, units);
     }
     EndTable(out);
     out << FileUnitHeader(units == Units::METRIC);
