@@ -1,0 +1,59 @@
+// The simulator's log.
+#pragma once
+
+#include "Visibility.h"
+
+#include <cstdint>
+#include <string>
+
+namespace Orv::Kes::KesModel {
+
+class BaseLogger;
+
+struct FLUIDBENCH_BOUNDARY_API Log {
+    /// How much a message matters, the most first.
+    enum Severity : std::int32_t { FATAL = 0, ERROR = 1, WARNING = 2, INFORMATION = 3, DEBUG = 4 };
+
+    /// The logger in force, process-wide. Never null: a `DefaultLogger` until somebody sets
+    /// another.
+    static BaseLogger* getCurrentLogger();
+
+    // The stand-in's own operation.
+
+    /// Puts another logger in force, which has to outlive its service; null stands for the default
+    /// one. Gives the logger that was in force. Not while another thread reads a deck.
+    static BaseLogger* setCurrentLogger(BaseLogger* logger);
+};
+
+/// Takes messages. `DefaultLogger` prints them; a program that wants them elsewhere derives its
+/// own.
+class FLUIDBENCH_BOUNDARY_API BaseLogger {
+public:
+    BaseLogger();
+    virtual ~BaseLogger();
+    BaseLogger(const BaseLogger&) = delete;
+    BaseLogger& operator=(const BaseLogger&) = delete;
+
+    /// Takes one message: a sentence without a line end.
+    virtual void write(Log::Severity severity, const std::string& text) = 0;
+};
+
+/// Prints messages to the error stream, one a line, as far as they matter enough.
+class FLUIDBENCH_BOUNDARY_API DefaultLogger : public BaseLogger {
+public:
+    DefaultLogger();
+    ~DefaultLogger() override;
+
+    /// Messages of a greater number than this aren't printed. `ERROR` at first.
+    void setMaxSeverity(Log::Severity severity);
+    void write(Log::Severity severity, const std::string& text) override;
+
+    // The stand-in's own operation.
+
+    Log::Severity getMaxSeverity() const;
+
+private:
+    Log::Severity maxSeverity_ = Log::ERROR;
+};
+
+} // namespace Orv::Kes::KesModel

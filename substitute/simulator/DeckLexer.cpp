@@ -1,0 +1,230 @@
+#include "DeckLexer.h"
+
+#include "DeckError.h"
+
+#include <array>
+
+namespace Orv::Kes::KesModel {
+
+namespace {
+
+using Kind = DeckToken::Kind;
+
+constexpr std::size_t veryLongLine = std::size_t{64} * 1024;
+
+constexpr bool IsBlank(char c) noexcept {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\v' || c == '\f';
+}
+constexpr bool IsQuote(char c) noexcept {
+    return c == '\'' || c == '"';
+}
+constexpr bool IsLetter(char c) noexcept {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+// What may end a word: the last two need a look at the character behind them.
+constexpr auto mayEndWord = [] {
+    std::array<bool, 256> table{};
+    for (const unsigned char c : {' ', '\t', '\r', '\v', '\f', '\n', '/', '-', '*'}) {
+        table[c] = true;
+    }
+    return table;
+}();
+
+bool Contains(std::string_view text, char c) noexcept {
+    return text.find(c) != std::string_view::npos;
+}
+
+// Whether a quoted text can end in front of `rest`.
+bool Separates(std::string_view rest) noexcept {
+    return rest.empty() || IsBlank(rest[0]) || rest[0] == '\n' || rest[0] == '/' ||
+           rest.starts_with("--");
+}
+
+} // namespace
+
+std::string Describe(const DeckToken& token) {
+    switch (token.kind) {
+    case Kind::Word:
+    case Kind::Quoted:
+        return Quote(token.text);
+    case Kind::OpenQuote:
+        return "a quote that isn't closed on its line";
+    case Kind::TooLong:
+        return "an item of more than " + std::to_string(DeckLexer::longestItem) + " characters";
+    case Kind::Slash:
+        return "'/'";
+    case Kind::LineEnd:
+        return "the end of the line";
+    case Kind::FileEnd:
+        return "the end of the file";
+    }
+    return "nothing";
+}
+
+void DeckLexer::MoveTo(std::uint64_t offset, std::uint64_t line) {
+    file_.MoveTo(offset, line);
+    isAtHeadOfLine_ = false;
+    plainTextBegins_ = 0;
+}
+
+DeckToken DeckLexer::Next() {
+    for (;;) {
+        const std::string_view ahead = AtLeastAhead(2);
+        if (ahead.empty()) {
+            return {Kind::FileEnd, {}, false};
+        }
+        std::size_t blanks = 0;
+        while (blanks < ahead.size() && IsBlank(ahead[blanks])) {
+            ++blanks;
+        }
+        const char first = ahead[0];
+        if (blanks > 0) {
+            Pass(blanks);
+        } else if (first == '\n') {
+            PassNewline();
+            return {Kind::LineEnd, {}, false};
+        } else if (first == '/') {
+            Pass(1);
+            return {Kind::Slash, {}, false};
+        } else if (ahead.starts_with("--")) {
+            SkipLine();
+            return {Kind::LineEnd, {}, false};
+        } else {
+            const bool isAtHeadOfLine = isAtHeadOfLine_;
+            return IsQuote(first) ? ReadQuoted(isAtHeadOfLine) : ReadWord(isAtHeadOfLine);
+        }
+    }
+}
+
+// A word ends in front of a blank, a slash or a comment, and behind the asterisk of a repeat count
+// whose value is quoted.
+DeckToken DeckLexer::ReadWord(bool isAtHeadOfLine) {
+    std::string_view ahead = file_.Ahead();
+    std::size_t length = 0;
+    for (; length <= longestItem; ++length) {
+        if (length + 1 >= ahead.size()) {
+            ahead = AtLeastAhead(length + 2);
+            if (length == ahead.size()) {
+                break;
+            }
+        }
+        const char c = ahead[length];
+        if (!mayEndWord[static_cast<unsigned char>(c)]) {
+            continue;
+        }
+        const char next = length + 1 < ahead.size() ? ahead[length + 1] : '\n';
+        if (c == '*' && IsQuote(next)) {
+            ++length;
+            break;
+        }
+        if ((c != '-' || next == '-') && c != '*') {
+            break;
+        }
+    }
+    const bool isTooLong = length > longestItem;
+    Pass(length);
+    return {isTooLong ? Kind::TooLong : Kind::Word, ahead.substr(0, length), isAtHeadOfLine};
+}
+
+DeckToken DeckLexer::ReadQuoted(bool isAtHeadOfLine) {
+    std::string_view ahead = file_.Ahead();
+    const char quote = ahead[0];
+    for (std::size_t position = 1; position <= longestItem; ++position) {
+        if (position + 2 >= ahead.size()) {
+            ahead = AtLeastAhead(position + 3);
+        }
+        if (position >= ahead.size() || ahead[position] == '\n') {
+            break;
+        }
+        if (ahead[position] != quote) {
+            continue;
+        }
+        if (Separates(ahead.substr(position + 1))) {
+            Pass(position + 1);
+            return {Kind::Quoted, ahead.substr(1, position - 1), isAtHeadOfLine};
+        }
+        if (IsBlank(ahead[position - 1])) {
+            break;
+        }
+    }
+    Pass(1);
+    return {Kind::OpenQuote, ahead.substr(0, 1), isAtHeadOfLine};
+}
+
+void DeckLexer::SkipLine() {
+    for (;;) {
+        const std::string_view ahead = file_.Ahead();
+        const std::size_t newline = ahead.find('\n');
+        if (newline != std::string_view::npos) {
+            Pass(newline);
+            PassNewline();
+            return;
+        }
+        if (ahead.empty()) {
+            return;
+        }
+        Pass(ahead.size());
+    }
+}
+
+void DeckLexer::SkipCommentLines() {
+    while (AtLeastAhead(2).starts_with("--")) {
+        SkipLine();
+    }
+}
+
+void DeckLexer::SkipPlainText() {
+    while (file_.Offset() >= plainTextBegins_) {
+        std::string_view ahead = file_.Ahead();
+        if (ahead.empty() || (isAtHeadOfLine_ && IsLetter(ahead[0]))) {
+            return;
+        }
+        std::size_t newline = ahead.find('\n');
+        if (newline == std::string_view::npos) {
+            ahead = AtLeastAhead(veryLongLine);
+            newline = ahead.find('\n');
+        }
+        const std::string_view line = ahead.substr(0, newline);
+        if (newline != std::string_view::npos && !Contains(line, '/')) {
+            Pass(newline);
+            PassNewline();
+            continue;
+        }
+        // The middle of a very long line: without quotes and comments, the next blank is as good a
+        // place to go on as any.
+        const std::size_t blank = line.find_last_of(" \t");
+        if (newline == std::string_view::npos && blank != std::string_view::npos && blank > 0 &&
+            !Contains(line, '/') && !Contains(line, '\'') && !Contains(line, '"') &&
+            line.find("--") == std::string_view::npos) {
+            Pass(blank);
+            continue;
+        }
+        plainTextBegins_ = file_.Offset() + line.size();
+    }
+}
+
+// That many characters ahead, unless the file ends before.
+std::string_view DeckLexer::AtLeastAhead(std::size_t count) {
+    std::string_view ahead = file_.Ahead();
+    while (ahead.size() < count) {
+        const std::size_t before = ahead.size();
+        ahead = file_.MoreAhead();
+        if (ahead.size() == before) {
+            break;
+        }
+    }
+    return ahead;
+}
+
+void DeckLexer::Pass(std::size_t count) noexcept {
+    file_.Pass(count);
+    isAtHeadOfLine_ = isAtHeadOfLine_ && count == 0;
+}
+
+void DeckLexer::PassNewline() noexcept {
+    file_.PassNewline();
+    isAtHeadOfLine_ = true;
+}
+
+} // namespace Orv::Kes::KesModel

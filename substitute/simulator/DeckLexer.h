@@ -1,0 +1,81 @@
+// The words of a deck: what stands between blanks, outside of comments.
+#pragma once
+
+#include "DeckFile.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace Orv::Kes::KesModel {
+
+struct DeckToken {
+    enum class Kind {
+        Word,      ///< what has no blanks, slashes and quotes around it: 16.04, 2*, 3*0.5, PR
+        Quoted,    ///< text in single or double quotes, given without them
+        OpenQuote, ///< a quote that isn't closed on its line; the text behind it comes next
+        TooLong, ///< the first part of a word beyond `DeckLexer::longestItem`; the rest comes next
+        Slash,   ///< outside of quotes: the end of a record
+        LineEnd,
+        FileEnd
+    };
+    Kind kind = Kind::FileEnd;
+    std::string_view text;       ///< of the first four kinds
+    bool isAtHeadOfLine = false; ///< begins at column one
+};
+
+/// The token as "found" in a message.
+std::string Describe(const DeckToken& token);
+
+/// Takes the text of one file of a deck apart.
+///
+///     BIC -- comment        Word at the head of a line, LineEnd
+///     3*0.05 'a/b'/ rest    Word, Quoted, Slash, and so on with the rest
+///
+/// Blanks, tabs and the carriage return of a line end separate and are nothing else. A comment runs
+/// from "--" to the line's end. A quote opens in front of an item and closes where a blank, a
+/// slash, a comment or the line's end follows: any other quote belongs to the text, because those
+/// who write component names don't escape them. Behind a blank it can't belong to the text, so that
+/// a quote that somebody forgot to close doesn't join two names. Quoted text ends on its line.
+///
+/// The lexer holds a block of the file, never the file. One thread at a time.
+class DeckLexer {
+public:
+    static constexpr std::size_t longestItem = 16'384;
+
+    /// Begins with the first line of the file. Throws as `DeckFile`'s constructor does.
+    explicit DeckLexer(const std::string& fileName) : file_(fileName) {}
+
+    const DeckFile& File() const noexcept { return file_; }
+
+    /// Goes on behind a token: where `File()` had this offset and line.
+    void MoveTo(std::uint64_t offset, std::uint64_t line);
+
+    /// The next token. Its text is valid until the next call of an operation that isn't const.
+    DeckToken Next();
+
+    /// Passes the rest of the line, with its end.
+    void SkipLine();
+
+    /// At the head of a line: passes the lines that are comments.
+    void SkipCommentLines();
+
+    /// Passes what can't matter in a record that nobody wants, at the speed of a search: lines, or
+    /// the rest of one, without a slash. Stops at the head of a line that begins with a letter. May
+    /// stop earlier than it must.
+    void SkipPlainText();
+
+private:
+    DeckToken ReadWord(bool isAtHeadOfLine);
+    DeckToken ReadQuoted(bool isAtHeadOfLine);
+    std::string_view AtLeastAhead(std::size_t count);
+    void Pass(std::size_t count) noexcept;
+    void PassNewline() noexcept;
+
+    DeckFile file_;
+    bool isAtHeadOfLine_ = true;
+    std::uint64_t plainTextBegins_ = 0; // not ahead of this offset, as was found out before
+};
+
+} // namespace Orv::Kes::KesModel

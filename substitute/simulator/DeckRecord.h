@@ -1,0 +1,61 @@
+// The data of one keyword.
+#pragma once
+
+#include "DeckError.h"
+#include "DeckIndex.h"
+#include "DeckLexer.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Orv::Kes::KesModel {
+
+/// How many items a record may have, and what they are altogether, for a message.
+struct ItemCount {
+    std::size_t least;
+    std::size_t most;
+    std::string meaning;
+};
+
+/// Reads the record behind a keyword, from the file, when it is asked to. Holds one block of the
+/// file. Every operation reads the record from where the last one left it; each throws `DeckError`
+/// when the record isn't what it expects.
+class DeckRecord {
+public:
+    /// Throws `DeckError` when the file can't be opened any more.
+    explicit DeckRecord(const KeywordPlace& place);
+
+    /// Takes a number with its index; nothing for a defaulted one.
+    using TakeNumber = std::function<void(std::size_t index, std::optional<double> number)>;
+
+    /// Reads the record as numbers and gives how many there were. A repeat count is compared with
+    /// what is still allowed before anything is repeated.
+    std::size_t ReadNumbers(const ItemCount& count, const TakeNumber& take);
+
+    /// Reads the record as one whole number.
+    std::uint64_t ReadCount();
+
+    /// Reads the record as names, in quotes or without. A number, or what has an asterisk or a
+    /// quote in it, is a name only in quotes.
+    std::vector<std::string> ReadNames(const ItemCount& count);
+
+    /// Reads the record as one of the words, in quotes or without and in either case, and gives its
+    /// index. The words are in capitals.
+    std::size_t ReadWord(const std::vector<std::string>& words);
+
+    /// Throws a `DeckError` for this keyword, at the line that was read last.
+    [[noreturn]] void Fail(const std::string& expected, const std::string& found) const;
+
+private:
+    std::optional<DeckToken> NextItem(const std::string& meaning);
+
+    std::string keyword_;
+    DeckLexer lexer_;
+    std::uint64_t line_;
+};
+
+} // namespace Orv::Kes::KesModel

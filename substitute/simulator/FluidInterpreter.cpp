@@ -1,0 +1,323 @@
+#include "FluidInterpreter.h"
+
+#include "DeckRecord.h"
+
+#include <algorithm>
+#include <string>
+#include <unordered_set>
+#include <vector>
+
+namespace Orv::Kes::KesModel {
+
+using SimFluid::IComponent;
+using SimFluid::ICompositionalModel;
+using SimFluid::IDepthTable;
+using SimFluid::IFluidModels;
+using SimFluid::IInitialCondition;
+
+namespace {
+
+constexpr const char* modelName = "Fluid";
+constexpr const char* regionName = "1";
+
+// The model while it is filled. What two keywords decide together waits for both of them.
+struct Fluid {
+    ICompositionalModel& model;
+    std::size_t n; // components
+    int equationOfState = 0;
+    bool isCorrected = false;
+    bool namesPedersen = false;
+    bool lacksViscosityCoefficients = false;
+};
+
+struct FluidKeyword {
+    std::string_view name;
+    KeywordData data;
+    bool isFluidKeyword;
+    void (*handle)(Fluid&, const KeywordPlace&, const FluidKeyword&); // may be null
+    int property;                                                     // of each component
+};
+
+// What the keywords do.
+
+using Numbers = std::vector<double>;
+
+ItemCount OnePerComponent(const Fluid& fluid) {
+    return {fluid.n, fluid.n, "as many numbers as components (" + std::to_string(fluid.n) + ")"};
+}
+
+void IgnoreNumber(std::size_t, std::optional<double>) {}
+
+void CheckCount(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
+    DeckRecord record(place);
+    const std::uint64_t count = record.ReadCount();
+    if (count != fluid.n) {
+        record.Fail(std::to_string(fluid.n) + ", the number of names under CNAMES",
+                    std::to_string(count));
+    }
+}
+
+void CheckUnits(Fluid&, const KeywordPlace& place, const FluidKeyword&) {
+    DeckRecord(place).ReadWord({"METRIC", "FIELD", "LAB", "PVT-M"});
+}
+
+void CheckNumber(Fluid&, const KeywordPlace& place, const FluidKeyword&) {
+    DeckRecord(place).ReadNumbers({1, 1, "one number"}, IgnoreNumber);
+}
+
+void ReadProperty(Fluid& fluid, const KeywordPlace& place, const FluidKeyword& keyword) {
+    const auto set = [&](std::size_t index, std::optional<double> number) {
+        if (number) {
+            fluid.model.getComponent(static_cast<int>(index))
+                .setProperty(keyword.property, *number);
+        }
+    };
+    DeckRecord(place).ReadNumbers(OnePerComponent(fluid), set);
+}
+
+void CheckProperty(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
+    DeckRecord(place).ReadNumbers(OnePerComponent(fluid), IgnoreNumber);
+}
+
+int ReadEquationOfStateCode(const KeywordPlace& place) {
+    struct Equation {
+        std::string_view word;
+        int code;
+    };
+    constexpr Equation equations[] = {{"PR", 0}, {"RK", 2}, {"SRK", 3}, {"ZJ", 4}};
+    std::vector<std::string> words;
+    for (const Equation& equation : equations) {
+        words.emplace_back(equation.word);
+    }
+    return equations[DeckRecord(place).ReadWord(words)].code;
+}
+
+void ReadEquationOfState(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
+    fluid.equationOfState = ReadEquationOfStateCode(place);
+}
+
+void CheckEquationOfState(Fluid&, const KeywordPlace& place, const FluidKeyword&) {
+    ReadEquationOfStateCode(place);
+}
+
+void CorrectEquationOfState(Fluid& fluid, const KeywordPlace&, const FluidKeyword&) {
+    fluid.isCorrected = true;
+}
+
+// The lower triangle of the symmetric matrix without its diagonal, row after row. Missing numbers
+// are zeros.
+Numbers ReadTriangle(const Fluid& fluid, const KeywordPlace& place) {
+    const std::size_t most = fluid.n < 2 ? 0 : fluid.n * (fluid.n - 1) / 2;
+    Numbers triangle;
+    DeckRecord(place).ReadNumbers(
+        {0, most, "at most " + std::to_string(most) + " numbers, one for each pair of components"},
+        [&](std::size_t, std::optional<double> number) {
+            triangle.push_back(number.value_or(0.0));
+        });
+    return triangle;
+}
+
+// The store is asked in rising order of the lower index and then the higher one, which suits a
+// store that is ordered by them.
+void ReadCoefficients(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
+    const Numbers triangle = ReadTriangle(fluid, place);
+    auto& coefficients = fluid.model.getBinaryInteractionCoefficients();
+    for (std::size_t column = 0; column + 1 < fluid.n; ++column) {
+        for (std::size_t row = column + 1; row < fluid.n; ++row) {
+            const std::size_t position = row * (row - 1) / 2 + column;
+            if (position < triangle.size() && triangle[position] != 0.0) {
+                coefficients.set(static_cast<int>(column), static_cast<int>(row),
+                                 triangle[position]);
+            }
+        }
+    }
+}
+
+void CheckCoefficients(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
+    ReadTriangle(fluid, place);
+}
+
+void UsePedersen(Fluid& fluid, const KeywordPlace&, const FluidKeyword&) {
+    fluid.namesPedersen = true;
+}
+
+// A deck of a fluid with another viscosity correlation has the keyword with an empty record.
+void ReadViscosityCoefficients(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
+    constexpr std::size_t coefficients = 5;
+    const std::string meaning = "five numbers or none";
+    DeckRecord record(place);
+    const std::size_t count = record.ReadNumbers({0, coefficients, meaning}, IgnoreNumber);
+    if (count != 0 && count != coefficients) {
+        record.Fail(meaning, std::to_string(count));
+    }
+    fluid.lacksViscosityCoefficients = count == 0;
+}
+
+IDepthTable& EmptyCompositionTable(Fluid& fluid) {
+    IDepthTable& table = fluid.model.makeInitialCondition(regionName)
+                             .getDepthTable(IInitialCondition::TOTAL_COMPOSITION);
+    table.clear(static_cast<int>(fluid.n));
+    return table;
+}
+
+void ReadComposition(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
+    IDepthTable& table = EmptyCompositionTable(fluid);
+    table.addRow(0.0);
+    DeckRecord(place).ReadNumbers(
+        OnePerComponent(fluid), [&](std::size_t index, std::optional<double> number) {
+            table.setValue(0, static_cast<int>(index), number.value_or(0.0));
+        });
+}
+
+// Rows of a depth and one fraction for each component.
+void ReadCompositionByDepth(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
+    IDepthTable& table = EmptyCompositionTable(fluid);
+    const std::size_t width = fluid.n + 1;
+    const std::string meaning = "rows of a depth and " + std::to_string(fluid.n) + " fractions";
+    DeckRecord record(place);
+    const std::size_t count = record.ReadNumbers(
+        {width, mostTableNumbers, meaning}, [&](std::size_t index, std::optional<double> number) {
+            const double value = number.value_or(0.0);
+            const auto row = static_cast<int>(index / width);
+            const auto column = static_cast<int>(index % width);
+            if (column == 0) {
+                table.addRow(value);
+            } else {
+                table.setValue(row, column - 1, value);
+            }
+        });
+    if (count % width != 0) {
+        record.Fail(meaning, "a last row of " + std::to_string(count % width) + " numbers");
+    }
+}
+
+// Which keyword does what.
+
+constexpr auto None = KeywordData::None;
+constexpr auto Number = KeywordData::Numbers;
+constexpr auto Word = KeywordData::Word;
+constexpr auto Names = KeywordData::Names;
+constexpr bool own = false;  // of the deck as a whole
+constexpr bool fluid = true; // asked of the validator
+constexpr int noProperty = -1;
+
+// CNAMES comes first, whatever its place in the deck; the other keywords are handled in the order
+// in which they stand there.
+constexpr FluidKeyword keywords[] = {
+    {"CNAMES", Names, fluid, nullptr, noProperty},
+    {"NCOMPS", Number, own, CheckCount, noProperty},
+    {"COMPS", Number, own, CheckCount, noProperty},
+    {"FILEUNIT", Word, own, CheckUnits, noProperty},
+    {"ECHO", None, own, nullptr, noProperty},
+    {"METRIC", None, own, nullptr, noProperty},
+    {"FIELD", None, own, nullptr, noProperty},
+
+    {"EOS", Word, fluid, ReadEquationOfState, noProperty},
+    {"PRCORR", None, own, CorrectEquationOfState, noProperty},
+    {"MW", Number, fluid, ReadProperty, IComponent::MOLECULAR_WEIGHT},
+    {"PCRIT", Number, fluid, ReadProperty, IComponent::CRITICAL_PRESSURE},
+    {"TCRIT", Number, fluid, ReadProperty, IComponent::CRITICAL_TEMPERATURE},
+    {"VCRIT", Number, fluid, ReadProperty, IComponent::CRITICAL_VOLUME},
+    {"ZCRIT", Number, fluid, ReadProperty, IComponent::CRITICAL_Z_FACTOR},
+    {"ACF", Number, fluid, ReadProperty, IComponent::ACENTRIC_FACTOR},
+    {"PARACHOR", Number, fluid, ReadProperty, IComponent::PARACHOR},
+    {"SSHIFT", Number, fluid, ReadProperty, IComponent::VOLUME_SHIFT},
+    {"OMEGAA", Number, fluid, ReadProperty, IComponent::OMEGA_A},
+    {"OMEGAB", Number, fluid, ReadProperty, IComponent::OMEGA_B},
+    {"VCRITVIS", Number, fluid, ReadProperty, IComponent::CRITICAL_VOLUME_FOR_VISCOSITY},
+    {"ZCRITVIS", Number, fluid, ReadProperty, IComponent::CRITICAL_Z_FACTOR_FOR_VISCOSITY},
+    {"SPECHA", Number, fluid, ReadProperty, IComponent::SPECIFIC_HEAT_A},
+    {"SPECHB", Number, fluid, ReadProperty, IComponent::SPECIFIC_HEAT_B},
+    {"SPECHG", Number, fluid, ReadProperty, IComponent::SPECIFIC_HEAT_G},
+    {"SPECHH", Number, fluid, ReadProperty, IComponent::SPECIFIC_HEAT_H},
+    {"BIC", Number, fluid, ReadCoefficients, noProperty},
+
+    {"PEDERSEN", None, fluid, UsePedersen, noProperty},
+    {"LBCCOEF", Number, own, ReadViscosityCoefficients, noProperty},
+    {"ZI", Number, fluid, ReadComposition, noProperty},
+    {"ZMFVD", Number, fluid, ReadCompositionByDepth, noProperty},
+
+    // Read and not stored: nothing in the store stands for the reservoir's temperature or for the
+    // equation of state at the surface.
+    {"RTEMP", Number, fluid, CheckNumber, noProperty},
+    {"EOSS", Word, fluid, CheckEquationOfState, noProperty},
+    {"MWS", Number, fluid, CheckProperty, noProperty},
+    {"PCRITS", Number, fluid, CheckProperty, noProperty},
+    {"TCRITS", Number, fluid, CheckProperty, noProperty},
+    {"VCRITS", Number, fluid, CheckProperty, noProperty},
+    {"ZCRITS", Number, fluid, CheckProperty, noProperty},
+    {"ACFS", Number, fluid, CheckProperty, noProperty},
+    {"SSHIFTS", Number, fluid, CheckProperty, noProperty},
+    {"OMEGAAS", Number, fluid, CheckProperty, noProperty},
+    {"OMEGABS", Number, fluid, CheckProperty, noProperty},
+    {"BICS", Number, fluid, CheckCoefficients, noProperty},
+};
+
+const FluidKeyword* Find(std::string_view name) {
+    const auto* const found = std::ranges::find(keywords, name, &FluidKeyword::name);
+    return found == std::end(keywords) ? nullptr : found;
+}
+
+// The names, on which everything else depends.
+
+const KeywordPlace* FindPlace(const DeckIndex& index, std::string_view keyword) {
+    const auto found = std::ranges::find(index.Keywords(), keyword, &KeywordPlace::keyword);
+    return found == index.Keywords().end() ? nullptr : &*found;
+}
+
+// A deck that was written for a fluid without components says so.
+bool SaysNoComponents(const DeckIndex& index) {
+    return std::ranges::any_of(std::initializer_list<std::string_view>{"NCOMPS", "COMPS"},
+                               [&](std::string_view keyword) {
+                                   const KeywordPlace* const place = FindPlace(index, keyword);
+                                   return place != nullptr && DeckRecord(*place).ReadCount() == 0;
+                               });
+}
+
+std::vector<std::string> ReadNames(const DeckIndex& index) {
+    const std::string meaning = "the names of the components";
+    const KeywordPlace* const place = FindPlace(index, "CNAMES");
+    if (place == nullptr) {
+        throw DeckError(index.End(), "CNAMES", meaning, "no such keyword in the deck");
+    }
+    DeckRecord record(*place);
+    std::vector<std::string> names = record.ReadNames(
+        {0, mostComponents, meaning + ", at most " + std::to_string(mostComponents)});
+    if (names.empty() && !SaysNoComponents(index)) {
+        record.Fail(meaning, "none");
+    }
+    std::unordered_set<std::string_view> known;
+    for (const std::string& name : names) {
+        if (!known.insert(name).second) {
+            record.Fail("a name for each component alone", Quote(name) + " twice");
+        }
+    }
+    return names;
+}
+
+} // namespace
+
+std::optional<KnownKeyword> FindKnownKeyword(std::string_view keyword) {
+    const FluidKeyword* const known = Find(keyword);
+    return known == nullptr ? std::nullopt
+                            : std::optional(KnownKeyword{known->data, known->isFluidKeyword});
+}
+
+void InterpretFluid(const DeckIndex& index, IFluidModels& models) {
+    const std::vector<std::string> names = ReadNames(index);
+    Fluid fluid{*models.makeCompositionalModel(modelName), names.size()};
+    for (const std::string& name : names) {
+        fluid.model.makeComponent(name);
+    }
+    for (const KeywordPlace& place : index.Keywords()) {
+        const FluidKeyword& keyword = *Find(place.keyword);
+        if (keyword.handle != nullptr) {
+            keyword.handle(fluid, place, keyword);
+        }
+    }
+    const bool isPengRobinson = fluid.equationOfState == 0;
+    fluid.model.setEquationOfState(isPengRobinson && fluid.isCorrected ? 1 : fluid.equationOfState);
+    fluid.model.setViscosityModel(fluid.namesPedersen || fluid.lacksViscosityCoefficients ? 1 : 0);
+}
+
+} // namespace Orv::Kes::KesModel

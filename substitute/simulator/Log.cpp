@@ -1,0 +1,65 @@
+#include "Kes/KesModel/Log.h"
+
+#include <atomic>
+#include <iostream>
+
+namespace Orv::Kes::KesModel {
+
+namespace {
+
+const char* NameOf(Log::Severity severity) {
+    switch (severity) {
+    case Log::FATAL:
+        return "fatal";
+    case Log::ERROR:
+        return "error";
+    case Log::WARNING:
+        return "warning";
+    case Log::INFORMATION:
+        return "note";
+    case Log::DEBUG:
+        return "debug";
+    }
+    return "message";
+}
+
+DefaultLogger& TheDefaultLogger() {
+    static DefaultLogger logger;
+    return logger;
+}
+
+// Null stands for the default logger, so that it is made when somebody asks for it.
+std::atomic<BaseLogger*> currentLogger = nullptr;
+
+} // namespace
+
+BaseLogger* Log::getCurrentLogger() {
+    BaseLogger* const logger = currentLogger.load();
+    return logger != nullptr ? logger : &TheDefaultLogger();
+}
+
+BaseLogger* Log::setCurrentLogger(BaseLogger* logger) {
+    BaseLogger* const previous = currentLogger.exchange(logger);
+    return previous != nullptr ? previous : &TheDefaultLogger();
+}
+
+BaseLogger::BaseLogger() = default;
+BaseLogger::~BaseLogger() = default;
+
+DefaultLogger::DefaultLogger() = default;
+DefaultLogger::~DefaultLogger() = default;
+
+void DefaultLogger::setMaxSeverity(Log::Severity severity) {
+    maxSeverity_ = severity;
+}
+Log::Severity DefaultLogger::getMaxSeverity() const {
+    return maxSeverity_;
+}
+
+void DefaultLogger::write(Log::Severity severity, const std::string& text) {
+    if (severity <= maxSeverity_) {
+        std::cerr << NameOf(severity) << ": " << text << '\n';
+    }
+}
+
+} // namespace Orv::Kes::KesModel
