@@ -2,6 +2,8 @@
 # include that the architecture forbids doesn't compile. What lies in the folder belongs to the room.
 
 add_library(FluidBenchBuildOptions INTERFACE)
+# Without it some processors round a product and a sum at once, and files differ in the last digit.
+target_compile_options(FluidBenchBuildOptions INTERFACE -ffp-contract=off)
 target_compile_options(FluidBenchBuildOptions INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast
     -Woverloaded-virtual -Wcast-qual -Wformat=2

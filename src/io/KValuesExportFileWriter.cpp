@@ -1,0 +1,74 @@
+// The order of a K-value file:
+//
+//     ECHO
+//     -- Temperature (K): 350.0          where the table has one
+//     -- Components:           C1 ...    cells of 24 characters and a blank
+//     -- Units: bar            dimensionless ...
+//     KVTABLE
+//     -- K-Values
+//     --
+//     100.0                    2.5 ...   a record: pressure and K-values
+//     /
+//                                        two empty lines
+//
+//     FILEUNIT
+//     METRIC
+//     /
+//
+// The comment "-- " ahead of the records ends in a blank.
+#include "io/KValuesExportFileWriter.h"
+
+#include "DeckText.h"
+#include "Messages.h"
+#include "TextFile.h"
+#include "io/KValuesTableFormatter.h"
+
+#include <fstream>
+#include <ios>
+#include <memory>
+#include <ostream>
+
+namespace Orv::FluidBench::IO {
+
+using Common::ErrorReport;
+using Common::Units;
+using Impl::IO::CantOpenForWriting;
+using Impl::IO::CsvUnsupported;
+using Impl::IO::OpenForWriting;
+using Model::KValuesTable;
+
+namespace {
+
+constexpr int decimalsOfHighPrecision = 15;
+constexpr int decimals = 8;
+
+} // namespace
+
+KValuesExportFileWriter::KValuesExportFileWriter(bool useHighPrecision, FILE_TYPE type)
+    : highPrecision(useHighPrecision), fileType(type) {}
+
+ErrorReport KValuesExportFileWriter::ExportToFile(const KValuesTable& table,
+                                                  const std::string& fileName,
+                                                  Units::UNIT_TYPE unitType) const {
+    ErrorReport report;
+    std::ofstream out = OpenForWriting(fileName);
+    if (!out.is_open()) {
+        report.Add(CantOpenForWriting(fileName));
+        return report;
+    }
+    if (fileType != PVO) {
+        report.Add(CsvUnsupported());
+        return report;
+    }
+    out << std::fixed;
+    out.precision(highPrecision ? decimalsOfHighPrecision : decimals);
+    const std::unique_ptr<IKValuesTableFormatter> formatter =
+        std::make_unique<KValuesTableFormatter>(unitType);
+    formatter->Echo(out);
+    formatter->KVTable(out, table);
+    formatter->EndDataRecord(out);
+    out << std::endl << FileUnitHeader(unitType == Units::METRIC);
+    return report;
+}
+
+} // namespace Orv::FluidBench::IO
