@@ -8,6 +8,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <charconv>
 #include <filesystem>
 #include <fstream>
@@ -40,24 +41,40 @@ const std::map<std::string, Writer::EXPORT_TYPE> tableChoices{
     {"dead-wet", Writer::DEAD_OIL_WET_GAS},
     {"dead-dry", Writer::DEAD_OIL_DRY_GAS}};
 
-// The number behind "KEY," at the head of a line.
-std::optional<double> NumberOfKey(std::string_view line, std::string_view key) {
-    if (!line.starts_with(key)) {
-        return std::nullopt;
-    }
-    line.remove_prefix(key.size());
+// The number that a text begins with, behind any blanks; 0.0 without one.
+double LeadingNumber(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
     double value = 0.0;
-    const auto error = std::from_chars(line.data(), line.data() + line.size(), value).ec;
-    return error == std::errc() ? std::optional(value) : std::nullopt;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
 }
 
-// The two lines of a file that the library's reader passes over, so that a conversion keeps them.
+std::string LowerCase(std::string text) {
+    std::ranges::transform(text, text.begin(), [](char c) {
+        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    });
+    return text;
+}
+
+// The two keys of a file that the library's reader passes over, so that a conversion keeps them.
+// They stand ahead of the tables.
 void ReadSaturationPoint(std::istream& file, BlackOilTable& table) {
     double ratio = 0.0;
     double pressure = 0.0;
-    for (std::string line; std::getline(file, line) && !line.starts_with("PVT");) {
-        ratio = NumberOfKey(line, "RSCONST,").value_or(ratio);
-        pressure = NumberOfKey(line, "PSAT,").value_or(pressure);
+    for (std::string line; std::getline(file, line);) {
+        const std::size_t comma = line.find(',');
+        if (comma == std::string::npos) {
+            continue;
+        }
+        const std::string key = LowerCase(line.substr(0, comma));
+        const std::string_view value = std::string_view(line).substr(comma + 1);
+        if (key == "rsconst") {
+            ratio = LeadingNumber(value);
+        } else if (key == "psat") {
+            pressure = LeadingNumber(value);
+        } else if (key == "pvto" || key == "pvtg") {
+            break;
+        }
     }
     table.SetSaturationPoint(ratio, pressure);
 }

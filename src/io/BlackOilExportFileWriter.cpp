@@ -20,6 +20,7 @@
 #include <fstream>
 #include <ios>
 #include <memory>
+#include <ranges>
 #include <vector>
 
 namespace Orv::FluidBench::IO {
@@ -86,10 +87,10 @@ void WriteCompositions(std::ostream& out, const std::vector<Stage>& stages, Phas
                        NumberFormat format) {
     constexpr std::size_t pressureWidth = 12;
     std::string block;
-    for (auto stage = stages.rbegin(); stage != stages.rend(); ++stage) {
-        const Phase& ofStage = (*stage).*phase;
+    for (const Stage& stage : std::views::reverse(stages)) {
+        const Phase& ofStage = stage.*phase;
         block.clear();
-        AppendNumber(block, convert(stage->Results->Pressure.GetValue()), format, pressureWidth);
+        AppendNumber(block, convert(stage.Results->Pressure.GetValue()), format, pressureWidth);
         for (const double fraction : ofStage.Present() ? ofStage.Composition : zeros) {
             block += ' ';
             AppendNumber(block, fraction, format);

@@ -2,6 +2,7 @@
 
 #include "NumberText.h"
 
+#include <array>
 #include <string_view>
 
 namespace Orv::FluidBench::IO {
@@ -92,7 +93,7 @@ void WriteKey(std::ostream& out, std::string_view key, double value) {
 }
 
 // A row of the CSV form; the numbers are in the units of the file.
-void WriteCSVRow(std::ostream& out, std::string& row, const double (&cells)[4]) {
+void WriteCSVRow(std::ostream& out, std::string& row, const std::array<double, 4>& cells) {
     const NumberFormat format = FormatOf(out);
     row = '\t';
     for (const double cell : cells) {

@@ -77,7 +77,7 @@ void InsertStageByDepth(std::vector<Stage>& stages, const Stage& stage) {
     stages.push_back(stage);
     // A depth that isn't a number has a place in this order, too.
     std::ranges::stable_sort(stages, [](const Stage& first, const Stage& second) {
-        return std::strong_order(DepthOf(first), DepthOf(second)) < 0;
+        return std::is_lt(std::strong_order(DepthOf(first), DepthOf(second)));
     });
 }
 
