@@ -2,7 +2,7 @@
 #include "io/ThermalExportFileWriter.h"
 #include "io/ThermalTableFormatter.h"
 
-#include <functional>
+#include <map>
 #include <sstream>
 #include <stdexcept>
 
@@ -68,10 +68,6 @@ std::string Section(const std::string& file, const std::string& keyword) {
     return file.substr(begin + 1, file.find("/\n", begin) - begin - 1);
 }
 
-double Double(double value) {
-    return 2.0 * value;
-}
-
 } // namespace
 
 TEST_F(Thermal, WholeFiles) {
@@ -110,23 +106,16 @@ TEST_F(Thermal, ATableWithoutComponents) {
 }
 
 TEST_F(Thermal, ShortVectorsAreRefusedAheadOfTheFile) {
-    const auto cut = [](auto member) {
-        return [=](ThermalExportTable& table) { (table.*member).pop_back(); };
-    };
-    const std::pair<std::string, std::function<void(ThermalExportTable&)>> cases[] = {
-        {"ComponentNames", cut(&ThermalExportTable::ComponentNames)},
-        {"MolecularWeights", cut(&ThermalExportTable::MolecularWeights)},
-        {"SpecificHeatD", cut(&ThermalExportTable::SpecificHeatD)},
-        {"Zis", [](ThermalExportTable& table) { table.SetZis({1.0}); }},
-        {"CrookstonE",
-         [](ThermalExportTable& table) {
-             table.SetCrookston({1, 2}, {1, 2}, {1, 2}, {1, 2}, {1});
-         }},
-    };
+    std::map<std::string, ThermalExportTable> cases;
+    for (const char* const name : {"MolecularWeights", "SpecificHeatD", "Zis", "CrookstonE"}) {
+        cases[name] = Sample(true);
+    }
+    cases["MolecularWeights"].MolecularWeights.pop_back();
+    cases["SpecificHeatD"].SpecificHeatD.pop_back();
+    cases["Zis"].SetZis({1.0});
+    cases["CrookstonE"].SetCrookston({1, 2}, {1, 2}, {1, 2}, {1, 2}, {1});
     const std::string path = folder.Write("old", "old text");
-    for (const auto& [name, shorten] : cases) {
-        ThermalExportTable table = Sample(false);
-        shorten(table);
+    for (const auto& [name, table] : cases) {
         try {
             Writer().ExportToFile(table, path, Units::METRIC);
             ADD_FAILURE() << name;
@@ -145,15 +134,14 @@ TEST_F(Thermal, RefusedExports) {
     EXPECT_EQ(report.GetMessages().front().GetParameters().front(),
               "Export to CSV is currently unsupported");
     EXPECT_EQ(ReadFile(path), "");
-    const std::string closed = folder.Path().string();
-    const auto closedReport = Writer().ExportToFile(Sample(true), closed, Units::METRIC);
-    EXPECT_EQ(MessageIds(closedReport), std::vector<std::int32_t>{3369});
-    EXPECT_EQ(closedReport.GetMessages().front().GetParameters().front(), closed);
+    EXPECT_EQ(MessageIds(Writer().ExportToFile({}, folder.Path().string(), Units::METRIC)),
+              std::vector<std::int32_t>{3369});
 }
 
 TEST_F(Thermal, OnlyTheConverterOfTheUnitChoiceIsCalled) {
-    metric.GenerateKeyword(out, "", "KEY", "Title", {1.5}, Double, nullptr);
-    field.GenerateKeyword(out, "u", "KEY", "Title", {1.5}, Double, nullptr);
+    const auto twice = [](double value) { return 2.0 * value; };
+    metric.GenerateKeyword(out, "", "KEY", "Title", {1.5}, twice, nullptr);
+    field.GenerateKeyword(out, "u", "KEY", "Title", {1.5}, twice, nullptr);
     EXPECT_EQ(out.str(), "KEY\n-- \n-- Title\n-- \n           \t1.5\n/\n\n"
                          "-- Units: u\nKEY\n-- \n-- Title\n-- \n           \t3\n/\n\n");
 }

@@ -50,7 +50,6 @@ public:
 ///     --
 ///                <tab>190.5              a tab in the last of 12 columns, then the value
 ///     /
-///
 class FLUIDBENCH_IO_API ThermalTableFormatter : public IThermalTableFormatter {
 public:
     explicit ThermalTableFormatter(Common::Units::UNIT_TYPE unitType);
