@@ -13,6 +13,10 @@ if(FLUIDBENCH_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(FluidBenchBuildOptions INTERFACE -fsanitize=address,undefined)
 endif()
+if(FLUIDBENCH_LIBFUZZER)
+    target_compile_options(FluidBenchBuildOptions INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(FluidBenchBuildOptions INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # fluidbench_room(NAME FOLDER [MAY_INCLUDE room_or_directory...])
 #

@@ -100,6 +100,10 @@ TEST(NumberText, ReadsLeadingNumbersAsTheCLibraryDoes) {
                                  "0x.8p1",
                                  "0x",
                                  "-0xAp2",
+                                 "0xfp-99999",
+                                 "0xfp99999",
+                                 "0x1p+-1",
+                                 "-0x.",
                                  "inf",
                                  "-INFinityx",
                                  "4.9e-324",
@@ -110,6 +114,7 @@ TEST(NumberText, ReadsLeadingNumbersAsTheCLibraryDoes) {
                                  "1 2"};
     for (const char* const text : texts) {
         EXPECT_EQ(ParseAsAtof(text), std::atof(text)) << text;
+        EXPECT_EQ(std::signbit(ParseAsAtof(text)), std::signbit(std::atof(text))) << text;
         const std::string_view view(text);
         const bool isDecimal = view.find_first_of("xXiI") == std::string_view::npos;
         if (isDecimal) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cmath>
 #include <iterator>
 #include <limits>
@@ -96,8 +95,9 @@ std::string DressedNumber(double value, NumberFormat format, Flags flags) {
         number.insert(0, "+");
     }
     if ((flags & std::ios_base::uppercase) != 0) {
-        std::ranges::transform(number, number.begin(),
-                               [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+        std::ranges::transform(number, number.begin(), [](char c) {
+            return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+        });
     }
     return number;
 }
@@ -131,6 +131,9 @@ constexpr bool IsSpace(char c) noexcept {
 constexpr bool IsDigit(char c) noexcept {
     return c >= '0' && c <= '9';
 }
+constexpr bool IsHexadecimalDigit(char c) noexcept {
+    return IsDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
+}
 
 std::string_view SkipSpace(std::string_view text) noexcept {
     const auto* const first = std::ranges::find_if_not(text, IsSpace);
@@ -155,7 +158,8 @@ struct Magnitude {
 
 // Tells an overflow from an underflow: where the first digit other than zero stands, counted from
 // the point and moved by the exponent.
-bool IsHuge(std::string_view number) noexcept {
+bool IsHuge(std::string_view number, std::chars_format notation) noexcept {
+    const bool isHexadecimal = notation == std::chars_format::hex;
     constexpr std::int64_t limit = std::numeric_limits<std::int32_t>::max();
     std::int64_t place = 0; // digits between the first one that counts and the point
     bool counts = false;
@@ -165,7 +169,7 @@ bool IsHuge(std::string_view number) noexcept {
         const char c = number[position];
         if (c == '.') {
             behindPoint = true;
-        } else if (!IsDigit(c)) {
+        } else if (!(isHexadecimal ? IsHexadecimalDigit(c) : IsDigit(c))) {
             break;
         } else {
             counts = counts || c != '0';
@@ -181,7 +185,8 @@ bool IsHuge(std::string_view number) noexcept {
         }
         exponent = isNegative ? -exponent : exponent;
     }
-    return place + exponent > 0;
+    // The exponent of a hexadecimal number counts bits, of which a digit has four.
+    return place * (isHexadecimal ? 4 : 1) + exponent > 0;
 }
 
 Magnitude ReadMagnitude(std::string_view text, std::chars_format notation) noexcept {
@@ -195,7 +200,7 @@ Magnitude ReadMagnitude(std::string_view text, std::chars_format notation) noexc
     const auto length = static_cast<std::size_t>(end - text.data());
     number.rest = text.substr(length);
     if (error == std::errc::result_out_of_range) {
-        number.isTooLarge = IsHuge(text.substr(0, length));
+        number.isTooLarge = IsHuge(text.substr(0, length), notation);
         number.value = number.isTooLarge ? std::numeric_limits<double>::infinity() : 0.0;
     }
     return number;
@@ -206,18 +211,25 @@ Magnitude ReadDecimal(std::string_view text) noexcept {
     return isDecimal ? ReadMagnitude(text, std::chars_format::general) : Magnitude();
 }
 
+// A sign without a number behind it isn't minus zero.
+double Signed(bool isNegative, const Magnitude& number) noexcept {
+    return isNegative && number.isThere ? -number.value : number.value;
+}
+
 bool HasHexadecimalPrefix(std::string_view text) noexcept {
     return text.starts_with("0x") || text.starts_with("0X");
 }
 
 Magnitude ReadAsAtof(std::string_view text) noexcept {
     if (HasHexadecimalPrefix(text)) {
-        const std::string_view digits = text.substr(2);
+        // Some standard libraries take the exponent of "1p+-1" for a number.
+        const std::string_view digits = text.substr(2, text.find("+-") - 2);
         const bool isNumber =
-            !digits.empty() && (std::isxdigit(static_cast<unsigned char>(digits.front())) != 0 ||
-                                digits.front() == '.');
-        if (isNumber) {
-            return ReadMagnitude(digits, std::chars_format::hex);
+            !digits.empty() && (IsHexadecimalDigit(digits.front()) || digits.front() == '.');
+        const Magnitude number =
+            isNumber ? ReadMagnitude(digits, std::chars_format::hex) : Magnitude();
+        if (number.isThere) {
+            return number;
         }
     }
     const bool hasSecondSign = text.starts_with('-') || text.starts_with('+');
@@ -266,15 +278,13 @@ void WriteNumber(std::ostream& out, std::uint64_t value) {
 double ParseAsAtof(std::string_view text) noexcept {
     text = SkipSpace(text);
     const bool isNegative = TakeSign(text);
-    const double value = ReadAsAtof(text).value;
-    return isNegative ? -value : value;
+    return Signed(isNegative, ReadAsAtof(text));
 }
 
 double ParseLeadingDecimal(std::string_view text) noexcept {
     text = SkipSpace(text);
     const bool isNegative = TakeSign(text);
-    const double value = ReadDecimal(text).value;
-    return isNegative ? -value : value;
+    return Signed(isNegative, ReadDecimal(text));
 }
 
 std::optional<double> ExtractDecimal(std::string_view text) noexcept {

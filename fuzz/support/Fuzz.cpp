@@ -1,0 +1,77 @@
+#include "Fuzz.h"
+
+#include <fstream>
+#include <random>
+#include <sstream>
+
+namespace FluidBenchFuzz {
+
+namespace {
+
+std::filesystem::path MakeFolder() {
+    const std::filesystem::path inMemory = "/dev/shm";
+    std::error_code error;
+    const std::filesystem::path parent = std::filesystem::is_directory(inMemory, error)
+                                             ? inMemory
+                                             : std::filesystem::temp_directory_path();
+    std::random_device random;
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        std::filesystem::path folder = parent / ("fluidbench-fuzz-" + std::to_string(random()));
+        if (std::filesystem::create_directory(folder, error)) {
+            return folder;
+        }
+    }
+    throw std::runtime_error("No folder can be made in '" + parent.string() + "'");
+}
+
+struct WorkingFolder {
+    WorkingFolder() = default;
+    ~WorkingFolder() {
+        std::error_code error;
+        std::filesystem::remove_all(path, error);
+    }
+    WorkingFolder(const WorkingFolder&) = delete;
+    WorkingFolder& operator=(const WorkingFolder&) = delete;
+
+    const std::filesystem::path path = MakeFolder();
+};
+
+} // namespace
+
+void Require(bool holds, const std::string& promise) {
+    if (!holds) {
+        throw BrokenPromise(promise);
+    }
+}
+
+const std::filesystem::path& Folder() {
+    static const WorkingFolder folder;
+    return folder.path;
+}
+
+std::string PathOf(const std::string& name) {
+    return (Folder() / name).string();
+}
+
+std::string FileWith(const std::string& name, std::string_view content) {
+    std::string path = PathOf(name);
+    std::ofstream file(path, std::ios_base::binary);
+    file.write(content.data(), static_cast<std::streamsize>(content.size()));
+    return path;
+}
+
+std::string ReadFile(const std::string& path) {
+    const std::ifstream file(path, std::ios_base::binary);
+    if (!file.is_open()) {
+        throw std::runtime_error("'" + path + "' can't be opened");
+    }
+    std::ostringstream content;
+    content << file.rdbuf();
+    return content.str();
+}
+
+std::string ProjectFile(const std::string& path) {
+    return ReadFile(std::string(FLUIDBENCH_PROJECT_FOLDER) + "/" + path);
+}
+
+} // namespace FluidBenchFuzz
