@@ -4,30 +4,14 @@
 #include "FluidBench/Utilities/Equations.h"
 #include "FluidBench/Utilities/ModelParameters.h"
 #include "FluidBench/Utilities/Strings.h"
+#include "UnitDefinitions.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace Orv::FluidBench::Common {
 
-namespace {
-
-// Exact by definition: the international foot and pound (1959), the standard acceleration of free
-// fall, the barrel of 42 gallons, and the International Table Btu.
-constexpr double pascalPerBar = 1.0e5;
-constexpr double pascalPerPsi = 6894.757293168361;
-constexpr double metrePerFoot = 0.3048;
-constexpr double cubicMetrePerCubicFoot = metrePerFoot * metrePerFoot * metrePerFoot;
-constexpr double metrePerInch = metrePerFoot / 12.0;
-constexpr double cubicMetrePerBarrel = 9702.0 * metrePerInch * metrePerInch * metrePerInch;
-constexpr double cubicFootPerBarrel = 9702.0 / (12.0 * 12.0 * 12.0);
-constexpr double kilogramPerPound = 0.45359237;
-constexpr double joulePerBtu = 1055.05585262;
-constexpr double rankinePerKelvin = 1.8;
-constexpr double kelvinAtZeroCelsius = 273.15;
-constexpr double rankineAtZeroFahrenheit = 459.67;
-
-} // namespace
+using namespace UnitDefinitions;
 
 double Units::Pressure_Pa_To_bar(double value) noexcept {
     return value / pascalPerBar;
