@@ -34,6 +34,11 @@ Message FreeText(pvtEnumErrorCode code, const std::string& text) {
     return {pvtEnumErrorType::General, code, MessageId::freeText, text};
 }
 
+Message PropertyRefused(const char* reason) {
+    return {pvtEnumErrorType::General, pvtEnumErrorCode::Warning, MessageId::propertyRefused,
+            reason};
+}
+
 Message CantOpenForWriting(const std::string& fileName) {
     return {pvtEnumErrorType::General, pvtEnumErrorCode::Error, MessageId::fileNotWritable,
             fileName};

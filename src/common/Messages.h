@@ -27,6 +27,10 @@ Common::Message Failure(std::int32_t id);
 /// A message whose sentence is `text` itself.
 Common::Message FreeText(Common::pvtEnumErrorCode code, const std::string& text);
 
+/// The toolbox refused a property of a component, for `reason`. A warning: the component goes
+/// without it.
+Common::Message PropertyRefused(const char* reason);
+
 /// The output file can't be opened.
 Common::Message CantOpenForWriting(const std::string& fileName);
 

@@ -1,0 +1,285 @@
+// The fluid, from what the deck interpreter put into the store.
+#include "DeckUnitSystems.h"
+#include "FluidBench/Common/Exceptions.h"
+#include "FluidBench/Model/Characterisation.h"
+#include "FluidBench/Model/CharacterisationControl.h"
+#include "IOException.h"
+#include "Kes/KesModel/Log.h"
+#include "Messages.h"
+#include "PVOCompositionalModelAdaptor.h"
+#include "PVOImporter.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <set>
+#include <string_view>
+#include <vector>
+
+namespace Orv::FluidBench::Impl::IO {
+
+using Common::ErrorReport;
+using Common::pvtEnumEoS;
+using Common::pvtEnumErrorCode;
+using Common::pvtEnumHCForm;
+using Common::pvtEnumInterfacialTensionMethod;
+using Common::pvtEnumStandardConditions;
+using Common::pvtEnumViscosityMethod;
+using Common::RelatedPropertyOutOfRangeException;
+using Kes::KesModel::Log;
+using Kes::SimFluid::IComponent;
+using Kes::SimFluid::IInitialCondition;
+using Model::CompositionalFluid;
+using Model::FluidComponent;
+
+namespace {
+
+// Properties that a fluid of the toolbox can't have.
+constexpr IComponent::Property foreignProperties[] = {
+    IComponent::SPECIFIC_HEAT_A, IComponent::SPECIFIC_HEAT_B, IComponent::SPECIFIC_HEAT_G,
+    IComponent::SPECIFIC_HEAT_H};
+
+constexpr std::string_view nonHydrocarbons[] = {"H2", "N2", "H2S", "H2O", "CO2", "CO"};
+
+// The interpreter's code of an equation of state, and what it is without and with a volume shift.
+struct EquationOfState {
+    int code;
+    pvtEnumEoS plain;
+    pvtEnumEoS shifted;
+};
+constexpr EquationOfState equationsOfState[] = {
+    {0, pvtEnumEoS::PengRobinson, pvtEnumEoS::PengRobinsonVolumeShift},
+    {1, pvtEnumEoS::PengRobinson78, pvtEnumEoS::PengRobinson78VolumeShift},
+    {2, pvtEnumEoS::RedlichKwong, pvtEnumEoS::RedlichKwong},
+    {3, pvtEnumEoS::SoaveRedlichKwong, pvtEnumEoS::SoaveRedlichKwongVolumeShift},
+};
+
+constexpr int lohrenzBrayClarkCode = 0;
+constexpr int pedersenCode = 1;
+constexpr int parachorCode = 0;
+
+// What a component has of its own, in the order in which it is copied. The reference density, which
+// takes two properties, comes between the two tables.
+struct CopiedProperty {
+    IComponent::Property key;
+    const char* measurement; // null for a number without a unit
+    double divisor;          // from the canonical unit to the model's
+    void (FluidComponent::*set)(double);
+};
+constexpr const char* noUnit = nullptr;
+constexpr double gramMolesPerKilogramMole = 1000.0;
+
+// clang-format off
+constexpr CopiedProperty beforeReferenceDensity[] = {
+    {IComponent::MOLECULAR_WEIGHT,              noUnit,                1.0, &FluidComponent::SetMolecularWeight},
+    {IComponent::CRITICAL_PRESSURE,             "Pressure",            1.0, &FluidComponent::SetPcrit},
+};
+constexpr CopiedProperty behindReferenceDensity[] = {
+    {IComponent::CRITICAL_TEMPERATURE,          "AbsoluteTemperature", 1.0, &FluidComponent::SetTcrit},
+    {IComponent::CRITICAL_Z_FACTOR,             noUnit,                1.0, &FluidComponent::SetZcrit},
+    {IComponent::CRITICAL_VOLUME,               "MolarVolume",         gramMolesPerKilogramMole, &FluidComponent::SetVcrit},
+    {IComponent::CRITICAL_VOLUME_FOR_VISCOSITY, "MolarVolume",         gramMolesPerKilogramMole, &FluidComponent::SetVcritViscosity},
+    {IComponent::ACENTRIC_FACTOR,               noUnit,                1.0, &FluidComponent::SetAcf},
+    {IComponent::PARACHOR,                      noUnit,                1.0, &FluidComponent::SetParachor},
+    {IComponent::VOLUME_SHIFT,                  noUnit,                1.0, &FluidComponent::SetEoSVolumeShift},
+    {IComponent::OMEGA_A,                       noUnit,                1.0, &FluidComponent::SetOmegaA},
+    {IComponent::OMEGA_B,                       noUnit,                1.0, &FluidComponent::SetOmegaB},
+    {IComponent::HEAT_OF_VAPORISATION,          noUnit,                1.0, &FluidComponent::SetHeatVapourisation},
+    {IComponent::THERMAL_EXPANSION,             noUnit,                1.0, &FluidComponent::SetThermExpCoeff},
+};
+// clang-format on
+
+// The standard conditions of a density, by their temperature in K. The first that fits counts.
+struct StandardConditions {
+    double temperature;
+    pvtEnumStandardConditions conditions;
+};
+constexpr StandardConditions standardConditions[] = {
+    {288.706, pvtEnumStandardConditions::Fahrenheit60},
+    {293.15, pvtEnumStandardConditions::Celsius20},
+};
+constexpr double temperatureTolerance = 0.01; // relative
+
+bool AnyComponentHas(const PVOCompositionalModelAdaptor& model, int key) {
+    for (int i = 0; i < model.getNumComponents(); ++i) {
+        if (model.getComponent(i).hasProperty(key)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// The first row of the composition against depth; zeros where there is none.
+std::vector<double> Fractions(const PVOCompositionalModelAdaptor& model) {
+    std::vector<double> fractions(static_cast<std::size_t>(model.getNumComponents()), 0.0);
+    const std::set<std::string> conditions = model.getInitialConditionNames();
+    if (conditions.empty()) {
+        return fractions;
+    }
+    const IInitialCondition& condition = model.getInitialCondition(*conditions.begin());
+    if (condition.hasDepthTable(IInitialCondition::TOTAL_COMPOSITION)) {
+        const auto& table = condition.getDepthTable(IInitialCondition::TOTAL_COMPOSITION);
+        for (int i = 0; i < model.getNumComponents(); ++i) {
+            fractions[static_cast<std::size_t>(i)] = table.getValue(0, i);
+        }
+    }
+    return fractions;
+}
+
+void SetEquationOfState(const PVOCompositionalModelAdaptor& model, CompositionalFluid& fluid,
+                        ErrorReport& report) {
+    const bool shifted = AnyComponentHas(model, IComponent::VOLUME_SHIFT);
+    try {
+        const int code = model.getEquationOfState();
+        const auto* const known = std::ranges::find(equationsOfState, code, &EquationOfState::code);
+        if (known == std::end(equationsOfState)) {
+            throw IOUnsupportedEoS();
+        }
+        fluid.SetEoS(shifted ? known->shifted : known->plain);
+    } catch (const IOUnsupportedEoS&) {
+        report.Add(Failure(MessageId::unsupportedEoS));
+    }
+}
+
+void SetViscosityModel(const PVOCompositionalModelAdaptor& model, CompositionalFluid& fluid,
+                       ErrorReport& report) {
+    try {
+        switch (model.getViscosityModel()) {
+        case lohrenzBrayClarkCode:
+            fluid.SetViscosityCorrelation(pvtEnumViscosityMethod::LohrenzBrayClark);
+            break;
+        case pedersenCode:
+            fluid.SetViscosityCorrelation(pvtEnumViscosityMethod::Pedersen);
+            break;
+        default:
+            throw IOUnsupportedViscosityModel();
+        }
+    } catch (const IOUnsupportedViscosityModel&) {
+        report.Add(Failure(MessageId::unsupportedViscosityModel));
+    }
+}
+
+void SetInterfacialTensionModel(const PVOCompositionalModelAdaptor& model,
+                                CompositionalFluid& fluid, ErrorReport& report) {
+    try {
+        if (model.getInterfacialTensionModel() != parachorCode) {
+            throw IOUnsupportedViscosityModel();
+        }
+        fluid.SetInterfacialTensionMethod(pvtEnumInterfacialTensionMethod::Parachor);
+    } catch (const IOUnsupportedViscosityModel&) {
+        report.Add(Failure(MessageId::unsupportedInterfacialTensionModel));
+    }
+}
+
+// Every pair, also those that the deck doesn't give.
+void SetCoefficients(const PVOCompositionalModelAdaptor& model, CompositionalFluid& fluid) {
+    const auto& coefficients = model.getBinaryInteractionCoefficients();
+    const int n = model.getNumComponents();
+    for (int i = 0; i < n; ++i) {
+        const std::string& first = model.getComponent(i).getName();
+        for (int j = i + 1; j < n; ++j) {
+            fluid.SetBIC(first, model.getComponent(j).getName(), coefficients.get(i, j));
+        }
+    }
+}
+
+// The report stays untold: what can't be completed stays as the deck has it.
+void Characterise(CompositionalFluid& fluid) {
+    const Model::Characterisation characterisation;
+    const Model::CharacterisationControl control;
+    characterisation.CharacteriseFor(fluid, control);
+}
+
+} // namespace
+
+void PVOImporter::BuildFluid(const PVOCompositionalModelAdaptor& model, bool characterise,
+                             CompositionalFluid& fluid, ErrorReport& report) const {
+    if (RefuseForeignProperties(model, report)) {
+        return;
+    }
+    const std::vector<double> fractions = Fractions(model);
+    SetEquationOfState(model, fluid, report);
+    SetViscosityModel(model, fluid, report);
+    SetInterfacialTensionModel(model, fluid, report);
+    SetComponents(model, fractions, fluid, report);
+    SetCoefficients(model, fluid);
+    if (characterise) {
+        Characterise(fluid);
+    }
+}
+
+bool PVOImporter::RefuseForeignProperties(const PVOCompositionalModelAdaptor& model,
+                                          ErrorReport& report) const {
+    for (int i = 0; i < model.getNumComponents(); ++i) {
+        const IComponent& component = model.getComponent(i);
+        for (const IComponent::Property property : foreignProperties) {
+            if (component.hasProperty(property)) {
+                Log::getCurrentLogger()->write(
+                    Log::ERROR, fileName + ": component '" + component.getName() +
+                                    "' has a specific heat, which a fluid can't hold; expected a "
+                                    "deck without SPECHA, SPECHB, SPECHG and SPECHH.");
+                report.Add(Failure(MessageId::deckNotInterpreted));
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+void PVOImporter::SetComponents(const PVOCompositionalModelAdaptor& model,
+                                const std::vector<double>& fractions, CompositionalFluid& fluid,
+                                ErrorReport& report) const {
+    for (int i = 0; i < model.getNumComponents(); ++i) {
+        const IComponent& source = model.getComponent(i);
+        const std::string& name = source.getName();
+        FluidComponent component(name);
+        if (std::ranges::find(nonHydrocarbons, name) != std::end(nonHydrocarbons)) {
+            component.SetHydrocarbonForm(pvtEnumHCForm::NonHydrocarbon);
+        }
+        try {
+            FillComponent(source, component);
+        } catch (const RelatedPropertyOutOfRangeException& error) {
+            report.Add(PropertyRefused(error.what()));
+        }
+        fluid.SetComponent(component, fractions[static_cast<std::size_t>(i)]);
+    }
+}
+
+void PVOImporter::FillComponent(const IComponent& source, FluidComponent& target) const {
+    const auto copy = [&](const CopiedProperty& property) {
+        if (source.hasProperty(property.key)) {
+            const double value = source.getProperty(property.key);
+            (target.*property.set)(property.measurement == noUnit
+                                       ? value
+                                       : Canonical(value, property.measurement) / property.divisor);
+        }
+    };
+    std::ranges::for_each(beforeReferenceDensity, copy);
+    FillReferenceDensity(source, target);
+    std::ranges::for_each(behindReferenceDensity, copy);
+}
+
+// A density without a temperature, or at a temperature that no standard conditions have, is
+// dropped.
+void PVOImporter::FillReferenceDensity(const IComponent& source, FluidComponent& target) const {
+    if (!source.hasProperty(IComponent::REFERENCE_DENSITY) ||
+        !source.hasProperty(IComponent::REFERENCE_TEMPERATURE)) {
+        return;
+    }
+    const double density = Canonical(source.getProperty(IComponent::REFERENCE_DENSITY), "Density");
+    const double temperature =
+        Canonical(source.getProperty(IComponent::REFERENCE_TEMPERATURE), "AbsoluteTemperature");
+    for (const StandardConditions& standard : standardConditions) {
+        if (std::abs(temperature - standard.temperature) / standard.temperature <
+            temperatureTolerance) {
+            target.SetReferenceDensity(density, standard.conditions);
+            return;
+        }
+    }
+}
+
+double PVOImporter::Canonical(double value, const std::string& measurement) const {
+    return ConvertToCanonical(value, measurement, UnitTypeOf(unitSystem));
+}
+
+} // namespace Orv::FluidBench::Impl::IO
