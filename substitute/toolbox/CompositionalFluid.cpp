@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <stdexcept>
 #include <utility>
 
@@ -85,13 +86,27 @@ std::optional<double> CompositionalFluidCommand::Coefficient(const std::string& 
         return std::nullopt;
     }
     const std::size_t place = PlaceInTriangle(*row, *column);
-    return place < coefficients_.size() ? coefficients_[place] : std::nullopt;
+    const bool isSet = place < coefficients_.size() && !std::isnan(coefficients_[place]);
+    return isSet ? std::optional(coefficients_[place]) : std::nullopt;
+}
+
+// Half a million coefficients are set one after another, the names of each being those of the last
+// one or the next in order. Then comparing is faster than looking up.
+std::size_t CompositionalFluidCommand::GetNear(std::size_t place,
+                                               const std::string& componentName) const {
+    for (const std::size_t candidate : {place, place + 1}) {
+        if (candidate < components_.size() &&
+            components_[candidate].component.GetName() == componentName) {
+            return candidate;
+        }
+    }
+    return Get(componentName);
 }
 
 void CompositionalFluidCommand::SetCoefficient(const std::string& first, const std::string& second,
                                                double value) {
-    const std::size_t row = Get(first);
-    const std::size_t column = Get(second);
+    const std::size_t row = GetNear(lastFirst_, first);
+    const std::size_t column = GetNear(lastSecond_, second);
     if (row == column) {
         throw std::invalid_argument("Component '" + first +
                                     "' has no interaction coefficient with itself");
@@ -103,9 +118,11 @@ void CompositionalFluidCommand::SetCoefficient(const std::string& first, const s
     const std::size_t place = PlaceInTriangle(row, column);
     if (place >= coefficients_.size()) {
         const std::size_t n = components_.size();
-        coefficients_.resize(n * (n - 1) / 2);
+        coefficients_.resize(n * (n - 1) / 2, std::numeric_limits<double>::quiet_NaN());
     }
     coefficients_[place] = value;
+    lastFirst_ = row;
+    lastSecond_ = column;
 }
 
 } // namespace Orv::FluidBench::Impl::Command

@@ -54,11 +54,17 @@ public:
     void SetCoefficient(const std::string& first, const std::string& second, double value);
 
 private:
+    std::size_t GetNear(std::size_t place, const std::string& componentName) const;
+
     std::vector<Entry> components_;
     std::unordered_map<std::string, std::size_t> indexOfName_;
     std::unordered_map<std::string, std::size_t> indexOfGlobalName_;
-    // Row i holds the i coefficients of component i with those before it.
-    std::vector<std::optional<double>> coefficients_;
+    // Row i holds the i coefficients of component i with those before it. Coefficients are finite;
+    // a not-a-number stands where none is set.
+    std::vector<double> coefficients_;
+    // Where the components of the coefficient set last are.
+    std::size_t lastFirst_ = 0;
+    std::size_t lastSecond_ = 0;
 };
 
 } // namespace Orv::FluidBench::Impl::Command
