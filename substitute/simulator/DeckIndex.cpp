@@ -57,9 +57,10 @@ bool IsData(const DeckToken& token) {
     if (!BeginsLikeNumber(token)) {
         return false;
     }
+    double number = 0.0;
     const std::size_t asterisk = token.text.find('*');
     return asterisk == std::string_view::npos
-               ? ParseNumber(token.text).has_value()
+               ? ParseNumber(token.text, number)
                : ParseCount(token.text.substr(0, asterisk)).has_value();
 }
 
@@ -92,7 +93,7 @@ private:
     void ReadFreeText(DeckLexer& deck);
 
     static Record ReadRestOfDataLine(DeckLexer& deck);
-    void SkipRecord(DeckLexer& deck, Record record);
+    void SkipRecord(DeckLexer& deck, Record record, KeywordData data = KeywordData::Numbers);
     void Include(const std::string& path, const DeckLine& line);
     void Remember(KeywordPlace place);
     void Hint(const DeckLine& line, const std::string& text);
@@ -214,7 +215,7 @@ void IndexBuilder::ReadWanted(DeckLexer& deck, const std::string& keyword, Keywo
     if (next.kind == Kind::Slash) {
         deck.SkipLine();
     } else if (data != KeywordData::None) {
-        SkipRecord(deck, Record::Open);
+        SkipRecord(deck, Record::Open, data);
     }
     context_ = Context::WantedKeyword;
     Remember(std::move(place));
@@ -265,9 +266,11 @@ IndexBuilder::Record IndexBuilder::ReadRestOfDataLine(DeckLexer& deck) {
 }
 
 // Words in an open record are data, whatever they look like. When it was left open by mistake, the
-// keywords that stand in it are missing afterwards, which is hard to find out without a hint.
-void IndexBuilder::SkipRecord(DeckLexer& deck, Record record) {
+// keywords that stand in it are missing afterwards, which is hard to find out without a hint. The
+// one word that a record should have may well be a keyword too, as METRIC is under FILEUNIT.
+void IndexBuilder::SkipRecord(DeckLexer& deck, Record record, KeywordData data) {
     const DeckLine opened = LineOf(deck);
+    bool isExpectedWord = data == KeywordData::Word;
     while (record == Record::Open) {
         deck.SkipPlainText();
         const DeckToken token = deck.Next();
@@ -277,11 +280,12 @@ void IndexBuilder::SkipRecord(DeckLexer& deck, Record record) {
         } else if (token.kind == Kind::FileEnd) {
             Hint(opened, "the record isn't closed by '/' before the end of the file");
             record = Record::None;
-        } else if (IsKeyword(token) && wanted_(token.text)) {
+        } else if (IsKeyword(token) && wanted_(token.text) && !isExpectedWord) {
             Hint(LineOf(deck), std::string(token.text) +
                                    " is data of the record that is open since line " +
                                    std::to_string(opened.line));
         }
+        isExpectedWord = isExpectedWord && token.kind == Kind::LineEnd;
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "DeckError.h"
 
+#include <algorithm>
 #include <array>
 
 namespace Orv::Kes::KesModel {
@@ -23,13 +24,16 @@ constexpr bool IsLetter(char c) noexcept {
 }
 
 // What may end a word: the last two need a look at the character behind them.
-constexpr auto mayEndWord = [] {
+constexpr auto wordEnds = [] {
     std::array<bool, 256> table{};
     for (const unsigned char c : {' ', '\t', '\r', '\v', '\f', '\n', '/', '-', '*'}) {
         table[c] = true;
     }
     return table;
 }();
+bool MayEndWord(char c) noexcept {
+    return wordEnds[static_cast<unsigned char>(c)];
+}
 
 bool Contains(std::string_view text, char c) noexcept {
     return text.find(c) != std::string_view::npos;
@@ -102,25 +106,31 @@ DeckToken DeckLexer::Next() {
 DeckToken DeckLexer::ReadWord(bool isAtHeadOfLine) {
     std::string_view ahead = file_.Ahead();
     std::size_t length = 0;
-    for (; length <= longestItem; ++length) {
+    while (length <= longestItem) {
+        const std::size_t most = std::min(ahead.size(), longestItem + 1);
+        while (length < most && !MayEndWord(ahead[length])) {
+            ++length;
+        }
         if (length + 1 >= ahead.size()) {
+            const std::size_t before = ahead.size();
             ahead = AtLeastAhead(length + 2);
-            if (length == ahead.size()) {
-                break;
+            if (ahead.size() > before) {
+                continue;
             }
         }
-        const char c = ahead[length];
-        if (!mayEndWord[static_cast<unsigned char>(c)]) {
-            continue;
+        if (length == ahead.size()) {
+            break;
         }
+        const char c = ahead[length];
         const char next = length + 1 < ahead.size() ? ahead[length + 1] : '\n';
         if (c == '*' && IsQuote(next)) {
             ++length;
             break;
         }
-        if ((c != '-' || next == '-') && c != '*') {
+        if (MayEndWord(c) && (c != '-' || next == '-') && c != '*') {
             break;
         }
+        ++length;
     }
     const bool isTooLong = length > longestItem;
     Pass(length);

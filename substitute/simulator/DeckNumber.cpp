@@ -1,5 +1,6 @@
 #include "DeckNumber.h"
 
+#include <algorithm>
 #include <charconv>
 #include <string>
 #include <system_error>
@@ -9,11 +10,10 @@ namespace Orv::Kes::KesModel {
 namespace {
 
 template <typename Number>
-std::optional<Number> ParseWhole(std::string_view text) noexcept {
-    Number number{};
+bool ParseWhole(std::string_view text, Number& number) noexcept {
     const char* const end = text.data() + text.size();
     const auto [behind, error] = std::from_chars(text.data(), end, number);
-    return error == std::errc() && behind == end ? std::optional(number) : std::nullopt;
+    return error == std::errc() && behind == end;
 }
 
 constexpr bool IsDigit(char c) noexcept {
@@ -21,36 +21,35 @@ constexpr bool IsDigit(char c) noexcept {
 }
 
 // Programs of a certain age write the exponent of a double-precision number with a D.
-std::optional<double> ParseWithD(std::string_view text) {
+bool ParseWithD(std::string_view text, double& number) {
     const std::size_t letter = text.find_first_of("dD");
     if (letter == std::string_view::npos) {
-        return std::nullopt;
+        return false;
     }
     std::string withE(text);
     withE[letter] = 'E';
-    return ParseWhole<double>(withE);
+    return ParseWhole(withE, number);
 }
 
 } // namespace
 
-std::optional<double> ParseNumber(std::string_view text) {
+bool ParseNumber(std::string_view text, double& number) {
     if (text.starts_with('+')) {
         text.remove_prefix(1);
         if (text.starts_with('-')) {
-            return std::nullopt;
+            return false;
         }
     }
     // The words for infinity and not-a-number have no digit ahead of their letters.
-    const std::size_t first = text.find_first_not_of("-.");
-    if (first == std::string_view::npos || !IsDigit(text[first])) {
-        return std::nullopt;
-    }
-    const std::optional<double> number = ParseWhole<double>(text);
-    return number ? number : ParseWithD(text);
+    const auto* const first =
+        std::ranges::find_if_not(text, [](char c) { return c == '-' || c == '.'; });
+    return first != text.end() && IsDigit(*first) &&
+           (ParseWhole(text, number) || ParseWithD(text, number));
 }
 
 std::optional<std::uint64_t> ParseCount(std::string_view text) noexcept {
-    return ParseWhole<std::uint64_t>(text);
+    std::uint64_t count = 0;
+    return ParseWhole(text, count) ? std::optional(count) : std::nullopt;
 }
 
 } // namespace Orv::Kes::KesModel

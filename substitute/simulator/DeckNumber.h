@@ -7,10 +7,11 @@
 
 namespace Orv::Kes::KesModel {
 
-/// The number that `text` is from its first character to its last: decimal digits with an optional
-/// sign, point and exponent, whose letter is E or D in either case. Nothing for anything else:
-/// not-a-numbers, infinities and numbers beyond the range of a double are no numbers of a deck.
-std::optional<double> ParseNumber(std::string_view text);
+/// Gives the number that `text` is from its first character to its last: decimal digits with an
+/// optional sign, point and exponent, whose letter is E or D in either case. False for anything
+/// else: not-a-numbers, infinities and numbers beyond the range of a double are no numbers of a
+/// deck.
+bool ParseNumber(std::string_view text, double& number);
 
 /// The whole number that `text` is, without a sign. Nothing for anything else.
 std::optional<std::uint64_t> ParseCount(std::string_view text) noexcept;

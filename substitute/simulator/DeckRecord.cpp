@@ -15,30 +15,30 @@ using Kind = DeckToken::Kind;
 // One item of a record of numbers: so many times the number, or the default.
 struct RepeatedNumber {
     std::uint64_t count = 1;
-    std::optional<double> number;
+    bool isDefault = false;
+    double number = 0.0;
 };
 
-// "16.04", "3*0.5" or "2*". Nothing for anything else, and for a count of zero.
-std::optional<RepeatedNumber> ParseRepeated(std::string_view text) {
-    RepeatedNumber repeated;
-    if (const std::size_t asterisk = text.find('*'); asterisk != std::string_view::npos) {
-        repeated.count = ParseCount(text.substr(0, asterisk)).value_or(0);
-        text.remove_prefix(asterisk + 1);
-        if (repeated.count == 0) {
-            return std::nullopt;
-        }
-        if (text.empty()) {
-            return repeated;
-        }
+// "16.04", "3*0.5" or "2*". False for anything else, and for a count of zero.
+bool ParseRepeated(std::string_view text, RepeatedNumber& repeated) {
+    if (ParseNumber(text, repeated.number)) {
+        return true;
     }
-    repeated.number = ParseNumber(text);
-    return repeated.number ? std::optional(repeated) : std::nullopt;
+    const std::size_t asterisk = text.find('*');
+    if (asterisk == std::string_view::npos) {
+        return false;
+    }
+    const std::string_view value = text.substr(asterisk + 1);
+    repeated.count = ParseCount(text.substr(0, asterisk)).value_or(0);
+    repeated.isDefault = value.empty();
+    return repeated.count > 0 && (repeated.isDefault || ParseNumber(value, repeated.number));
 }
 
 bool IsName(const DeckToken& item) {
+    double number = 0.0;
     const bool isBareName = item.kind == Kind::Word &&
                             item.text.find_first_of("*'\"") == std::string_view::npos &&
-                            !ParseNumber(item.text);
+                            !ParseNumber(item.text, number);
     return !item.text.empty() && (item.kind == Kind::Quoted || isBareName);
 }
 
@@ -66,16 +66,17 @@ DeckRecord::DeckRecord(const KeywordPlace& place)
 
 std::size_t DeckRecord::ReadNumbers(const ItemCount& count, const TakeNumber& take) {
     std::size_t index = 0;
-    while (const auto item = NextItem(count.meaning)) {
-        const auto repeated = item->kind == Kind::Word ? ParseRepeated(item->text) : std::nullopt;
-        if (!repeated) {
-            Fail("a number", Describe(*item));
+    for (DeckToken item = NextItem(count.meaning); item.kind != Kind::Slash;
+         item = NextItem(count.meaning)) {
+        RepeatedNumber repeated;
+        if (item.kind != Kind::Word || !ParseRepeated(item.text, repeated)) {
+            Fail("a number", Describe(item));
         }
-        if (repeated->count > count.most - index) {
-            Fail(count.meaning, Describe(*item) + " behind " + std::to_string(index) + " of them");
+        if (repeated.count > count.most - index) {
+            Fail(count.meaning, Describe(item) + " behind " + std::to_string(index) + " of them");
         }
-        for (std::uint64_t i = 0; i < repeated->count; ++i) {
-            take(index++, repeated->number);
+        for (std::uint64_t i = 0; i < repeated.count; ++i) {
+            take(index++, repeated.isDefault ? nullptr : &repeated.number);
         }
     }
     if (index < count.least) {
@@ -87,9 +88,9 @@ std::size_t DeckRecord::ReadNumbers(const ItemCount& count, const TakeNumber& ta
 std::uint64_t DeckRecord::ReadCount() {
     const std::string expected = "one whole number";
     std::optional<std::uint64_t> number;
-    while (const auto item = NextItem(expected)) {
-        if (number || item->kind != Kind::Word || !(number = ParseCount(item->text))) {
-            Fail(expected, Describe(*item));
+    for (DeckToken item = NextItem(expected); item.kind != Kind::Slash; item = NextItem(expected)) {
+        if (number || item.kind != Kind::Word || !(number = ParseCount(item.text))) {
+            Fail(expected, Describe(item));
         }
     }
     if (!number) {
@@ -100,15 +101,16 @@ std::uint64_t DeckRecord::ReadCount() {
 
 std::vector<std::string> DeckRecord::ReadNames(const ItemCount& count) {
     std::vector<std::string> names;
-    while (const auto item = NextItem(count.meaning)) {
-        if (!IsName(*item)) {
-            Fail("a name", Describe(*item));
+    for (DeckToken item = NextItem(count.meaning); item.kind != Kind::Slash;
+         item = NextItem(count.meaning)) {
+        if (!IsName(item)) {
+            Fail("a name", Describe(item));
         }
         if (names.size() == count.most) {
             Fail(count.meaning,
-                 Describe(*item) + " behind " + std::to_string(count.most) + " of them");
+                 Describe(item) + " behind " + std::to_string(count.most) + " of them");
         }
-        names.emplace_back(item->text);
+        names.emplace_back(item.text);
     }
     if (names.size() < count.least) {
         Fail(count.meaning, "'/' behind " + std::to_string(names.size()) + " of them");
@@ -133,22 +135,15 @@ void DeckRecord::Fail(const std::string& expected, const std::string& found) con
     throw DeckError({lexer_.File().Name(), line_}, keyword_, expected, found);
 }
 
-// The next item of a record that should hold `meaning`; nothing at its slash.
-std::optional<DeckToken> DeckRecord::NextItem(const std::string& meaning) {
+// The next item of a record that should hold `meaning`, or its slash.
+DeckToken DeckRecord::NextItem(const std::string& meaning) {
     for (;;) {
         line_ = lexer_.File().Line();
         const DeckToken token = lexer_.Next();
-        switch (token.kind) {
-        case Kind::LineEnd:
-            continue;
-        case Kind::Slash:
-            return std::nullopt;
-        case Kind::FileEnd:
+        if (token.kind == Kind::FileEnd) {
             Fail("'/' behind " + meaning, Describe(token));
-        case Kind::Word:
-        case Kind::Quoted:
-        case Kind::OpenQuote:
-        case Kind::TooLong:
+        }
+        if (token.kind != Kind::LineEnd) {
             return token;
         }
     }

@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,8 +28,8 @@ public:
     /// Throws `DeckError` when the file can't be opened any more.
     explicit DeckRecord(const KeywordPlace& place);
 
-    /// Takes a number with its index; nothing for a defaulted one.
-    using TakeNumber = std::function<void(std::size_t index, std::optional<double> number)>;
+    /// Takes a number with its index; null for a defaulted one.
+    using TakeNumber = std::function<void(std::size_t index, const double* number)>;
 
     /// Reads the record as numbers and gives how many there were. A repeat count is compared with
     /// what is still allowed before anything is repeated.
@@ -51,7 +50,7 @@ public:
     [[noreturn]] void Fail(const std::string& expected, const std::string& found) const;
 
 private:
-    std::optional<DeckToken> NextItem(const std::string& meaning);
+    DeckToken NextItem(const std::string& meaning);
 
     std::string keyword_;
     DeckLexer lexer_;

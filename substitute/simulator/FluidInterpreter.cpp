@@ -40,13 +40,15 @@ struct FluidKeyword {
 
 // What the keywords do.
 
-using Numbers = std::vector<double>;
-
 ItemCount OnePerComponent(const Fluid& fluid) {
     return {fluid.n, fluid.n, "as many numbers as components (" + std::to_string(fluid.n) + ")"};
 }
 
-void IgnoreNumber(std::size_t, std::optional<double>) {}
+void IgnoreNumber(std::size_t, const double*) {}
+
+double OrZero(const double* number) {
+    return number != nullptr ? *number : 0.0;
+}
 
 void CheckCount(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
     DeckRecord record(place);
@@ -66,8 +68,8 @@ void CheckNumber(Fluid&, const KeywordPlace& place, const FluidKeyword&) {
 }
 
 void ReadProperty(Fluid& fluid, const KeywordPlace& place, const FluidKeyword& keyword) {
-    const auto set = [&](std::size_t index, std::optional<double> number) {
-        if (number) {
+    const auto set = [&](std::size_t index, const double* number) {
+        if (number != nullptr) {
             fluid.model.getComponent(static_cast<int>(index))
                 .setProperty(keyword.property, *number);
         }
@@ -104,37 +106,32 @@ void CorrectEquationOfState(Fluid& fluid, const KeywordPlace&, const FluidKeywor
     fluid.isCorrected = true;
 }
 
-// The lower triangle of the symmetric matrix without its diagonal, row after row. Missing numbers
-// are zeros.
-Numbers ReadTriangle(const Fluid& fluid, const KeywordPlace& place) {
+// The lower triangle of the symmetric matrix without its diagonal, row after row. `take` gets row,
+// column and coefficient; those that the deck leaves out are zeros, and nobody has to be told.
+template <typename Take>
+void ReadTriangle(const Fluid& fluid, const KeywordPlace& place, Take take) {
     const std::size_t most = fluid.n < 2 ? 0 : fluid.n * (fluid.n - 1) / 2;
-    Numbers triangle;
+    int row = 1;
+    int column = 0;
     DeckRecord(place).ReadNumbers(
         {0, most, "at most " + std::to_string(most) + " numbers, one for each pair of components"},
-        [&](std::size_t, std::optional<double> number) {
-            triangle.push_back(number.value_or(0.0));
+        [&](std::size_t, const double* number) {
+            take(row, column, OrZero(number));
+            if (++column == row) {
+                ++row;
+                column = 0;
+            }
         });
-    return triangle;
 }
 
-// The store is asked in rising order of the lower index and then the higher one, which suits a
-// store that is ordered by them.
 void ReadCoefficients(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
-    const Numbers triangle = ReadTriangle(fluid, place);
     auto& coefficients = fluid.model.getBinaryInteractionCoefficients();
-    for (std::size_t column = 0; column + 1 < fluid.n; ++column) {
-        for (std::size_t row = column + 1; row < fluid.n; ++row) {
-            const std::size_t position = row * (row - 1) / 2 + column;
-            if (position < triangle.size() && triangle[position] != 0.0) {
-                coefficients.set(static_cast<int>(column), static_cast<int>(row),
-                                 triangle[position]);
-            }
-        }
-    }
+    ReadTriangle(fluid, place,
+                 [&](int row, int column, double value) { coefficients.set(row, column, value); });
 }
 
 void CheckCoefficients(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
-    ReadTriangle(fluid, place);
+    ReadTriangle(fluid, place, [](int, int, double) {});
 }
 
 void UsePedersen(Fluid& fluid, const KeywordPlace&, const FluidKeyword&) {
@@ -163,10 +160,10 @@ IDepthTable& EmptyCompositionTable(Fluid& fluid) {
 void ReadComposition(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
     IDepthTable& table = EmptyCompositionTable(fluid);
     table.addRow(0.0);
-    DeckRecord(place).ReadNumbers(
-        OnePerComponent(fluid), [&](std::size_t index, std::optional<double> number) {
-            table.setValue(0, static_cast<int>(index), number.value_or(0.0));
-        });
+    DeckRecord(place).ReadNumbers(OnePerComponent(fluid),
+                                  [&](std::size_t index, const double* number) {
+                                      table.setValue(0, static_cast<int>(index), OrZero(number));
+                                  });
 }
 
 // Rows of a depth and one fraction for each component.
@@ -176,8 +173,8 @@ void ReadCompositionByDepth(Fluid& fluid, const KeywordPlace& place, const Fluid
     const std::string meaning = "rows of a depth and " + std::to_string(fluid.n) + " fractions";
     DeckRecord record(place);
     const std::size_t count = record.ReadNumbers(
-        {width, mostTableNumbers, meaning}, [&](std::size_t index, std::optional<double> number) {
-            const double value = number.value_or(0.0);
+        {width, mostTableNumbers, meaning}, [&](std::size_t index, const double* number) {
+            const double value = OrZero(number);
             const auto row = static_cast<int>(index / width);
             const auto column = static_cast<int>(index % width);
             if (column == 0) {
