@@ -19,6 +19,7 @@ public:
 };
 
 void AddBlackOilCommands(CLI::App& program);
+void AddDeckCommands(CLI::App& program);
 void AddDfaCommands(CLI::App& program);
 void AddMflCommands(CLI::App& program);
 

@@ -22,6 +22,7 @@ int main(int argumentCount, char** arguments) {
     CLI::App program("Looks into the files of reservoir fluids and converts them.",
                      "fluidbench-io");
     program.require_subcommand(1);
+    FluidBenchTool::AddDeckCommands(program);
     FluidBenchTool::AddBlackOilCommands(program);
     FluidBenchTool::AddDfaCommands(program);
     FluidBenchTool::AddMflCommands(program);
