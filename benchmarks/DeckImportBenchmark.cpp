@@ -1,0 +1,191 @@
+// Reading keyword decks, against loops over the same files: a fluid of 1,000 components with all of
+// its interaction coefficients, against std::getline with std::from_chars; and a deck of 256 MiB
+// whose data hardly anybody wants, against std::getline alone. The memory that the large deck takes
+// is measured in a process of its own.
+#include "Ratios.h"
+#include "io/PVOFileReader.h"
+#include "io/PVOFileWriter.h"
+
+#include <benchmark/benchmark.h>
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <charconv>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+using namespace Orv::FluidBench;
+
+constexpr int components = 1000;
+constexpr std::size_t mebibyte = std::size_t{1} << 20;
+constexpr std::size_t largeDeckSize = 256 * mebibyte;
+constexpr double mostPeakMemory = 64.0; // MiB
+
+const std::filesystem::path& Folder() {
+    static const std::filesystem::path folder = [] {
+        auto path = std::filesystem::temp_directory_path() / "fluidbench-deck-import-benchmark";
+        std::filesystem::create_directories(path);
+        return path;
+    }();
+    return folder;
+}
+
+Model::CompositionalFluid Fluid(int n) {
+    std::mt19937_64 random(3);
+    std::uniform_real_distribution<double> any(0.001, 0.2);
+    Model::CompositionalFluid fluid("");
+    for (int i = 0; i < n; ++i) {
+        Model::FluidComponent component("PC" + std::to_string(i));
+        component.SetMolecularWeight(100.0 + any(random));
+        component.SetTcrit(400.0 + any(random));
+        component.SetPcrit(3e6 + any(random));
+        component.SetVcrit(1e-4 + 1e-3 * any(random));
+        component.SetAcf(any(random));
+        component.SetOmegaA(0.457235529);
+        component.SetOmegaB(0.077796074);
+        fluid.SetComponent(component, 1.0 / n);
+    }
+    const std::vector<std::string> names = fluid.ListComponents();
+    for (int i = 0; i < n; ++i) {
+        for (int j = 0; j < i; ++j) {
+            fluid.SetBIC(names[static_cast<std::size_t>(i)], names[static_cast<std::size_t>(j)],
+                         any(random));
+        }
+    }
+    return fluid;
+}
+
+const std::string& FluidDeck() {
+    static const std::string deck = [] {
+        std::string file = Folder() / "fluid.dat";
+        IO::PVOFileWriter().ExportToPVO(Fluid(components), file, 350.0, true, false);
+        return file;
+    }();
+    return deck;
+}
+
+// A simulation deck: the fluid is a small part of it, and the grid nearly all.
+const std::string& LargeDeck() {
+    static const std::string deck = [] {
+        std::string file = Folder() / "large.dat";
+        std::ofstream out(file);
+        out << "RUNSPEC\nFIELD\nGRID\nPERMX\n";
+        std::string lines;
+        std::mt19937_64 random(7);
+        std::uniform_real_distribution<double> millidarcy(0.1, 2000.0);
+        while (lines.size() < mebibyte) {
+            for (int i = 0; i < 8; ++i) {
+                lines += ' ' + std::to_string(millidarcy(random));
+            }
+            lines += '\n';
+        }
+        for (std::size_t size = 0; size < largeDeckSize; size += lines.size()) {
+            out << lines;
+        }
+        out << "/\nPROPS\nFILEUNIT\nFIELD /\nEOS\nPR /\nCNAMES\nC1 C10 /\nMW\n16.04 142.29 /\n"
+               "TCRIT\n343 1111.8 /\nZI\n0.6 0.4 /\n";
+        return file;
+    }();
+    return deck;
+}
+
+void Read(const std::string& file, int expectedComponents) {
+    IO::PVOFileReader reader;
+    reader.SetPVOName(file);
+    Model::CompositionalFluid fluid("");
+    constexpr bool detectUnitSystem = false;
+    if (reader.Read(fluid, detectUnitSystem).HasErrors() ||
+        fluid.NumberOfComponents() != expectedComponents) {
+        throw std::runtime_error("The deck wasn't read");
+    }
+    benchmark::DoNotOptimize(fluid);
+}
+
+void ReadFluid(benchmark::State& state) {
+    for (auto _ : state) {
+        Read(FluidDeck(), components);
+    }
+}
+
+void FromChars(benchmark::State& state) {
+    const std::string& file = FluidDeck();
+    for (auto _ : state) {
+        std::ifstream stream(file);
+        std::string line;
+        double sum = 0.0;
+        while (std::getline(stream, line)) {
+            const char* position = line.data();
+            const char* const end = position + line.size();
+            while (position < end) {
+                double value = 0.0;
+                const auto [behind, error] = std::from_chars(position, end, value);
+                sum += value;
+                position = error == std::errc() ? behind : position + 1;
+            }
+        }
+        benchmark::DoNotOptimize(sum);
+    }
+}
+
+void ReadLarge(benchmark::State& state) {
+    for (auto _ : state) {
+        Read(LargeDeck(), 2);
+    }
+}
+
+void GetLine(benchmark::State& state) {
+    const std::string& file = LargeDeck();
+    for (auto _ : state) {
+        std::ifstream stream(file);
+        std::string line;
+        std::size_t length = 0;
+        while (std::getline(stream, line)) {
+            length += line.size();
+        }
+        benchmark::DoNotOptimize(length);
+    }
+}
+
+// The most memory that a process had that does nothing but read the large deck, in MiB. Called
+// before anything else makes this process large.
+double PeakMemoryOfLargeDeck() {
+    const std::string& deck = LargeDeck();
+    const pid_t child = fork();
+    if (child == 0) {
+        Read(deck, 2);
+        _exit(0);
+    }
+    int status = 0;
+    rusage usage{};
+    if (child < 0 || wait4(child, &status, 0, &usage) != child || status != 0) {
+        throw std::runtime_error("The large deck wasn't read");
+    }
+    return static_cast<double>(usage.ru_maxrss) / 1024.0;
+}
+
+BENCHMARK(ReadFluid)->Unit(benchmark::kMillisecond);
+BENCHMARK(FromChars)->Unit(benchmark::kMillisecond);
+BENCHMARK(ReadLarge)->Unit(benchmark::kMillisecond);
+BENCHMARK(GetLine)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argumentCount, char** arguments) {
+    const double peakMemory = PeakMemoryOfLargeDeck();
+    const int status = FluidBenchBenchmark::RunAndPrintRatios(
+        argumentCount, arguments,
+        {{"reading 1,000 components : getline and from_chars", "ReadFluid", "FromChars", 4.0},
+         {"reading 256 MiB of other data : getline", "ReadLarge", "GetLine", 2.0}});
+    std::printf("%-60s %6.2f MiB  (at most %.0f MiB%s)\n", "peak memory of reading 256 MiB",
+                peakMemory, mostPeakMemory, peakMemory <= mostPeakMemory ? "" : ", MISSED");
+    std::filesystem::remove_all(Folder());
+    return status;
+}
