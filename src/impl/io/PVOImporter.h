@@ -38,6 +38,8 @@ public:
                                bool detectUnitSystem) override;
 
 private:
+    friend class ImporterProbe; // of the tests
+
     // The unit system, from the text of the deck.
     Common::pvtEnumPVOUnitSystemType DetectUnitSystem() const;
     bool UnitSystemFromComment(Common::pvtEnumPVOUnitSystemType& result,
