@@ -225,7 +225,7 @@ TEST_F(DeckImportTest, TellsWhatIsWrongAndLeavesABlankFluid) {
              "in the deck."},
         {"MW\n1 /\nTCRIT\n", "line 4, keyword CNAMES: expected the names of the components, found "
                              "no such keyword in the deck."},
-        {std::string("\0\xFF\x80 MW\n\x01/\n", 12),
+        {std::string("\0\xFF\x80 MW\n\x01/\n", 10),
          "line 3, keyword CNAMES: expected the names of the components, found no such keyword in "
          "the deck."},
         {"CNAMES\n/\n",
