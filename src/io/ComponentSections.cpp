@@ -29,11 +29,9 @@ double AsItIs(double value) {
     return value;
 }
 
-// A section of one property: its keyword, where the value comes from, its unit in each system.
-struct PropertySection {
-    const char* keyword;
-    pvtEnumPropertySource (FluidComponent::*source)() const;
-    double (FluidComponent::*value)() const;
+// How a quantity stands in each unit system: the comment line that names the unit, if it has one,
+// and the conversion from the model's unit.
+struct Quantity {
     const char* metricUnit;
     Conversion toMetric;
     const char* fieldUnit;
@@ -43,46 +41,57 @@ struct PropertySection {
 constexpr const char* noUnit = nullptr;
 
 // clang-format off
+constexpr Quantity dimensionless{
+    noUnit,                 AsItIs,
+    noUnit,                 AsItIs};
+constexpr Quantity temperature{
+    "--Units: K",           AsItIs,
+    "--Units: R",           Units::Temperature_K_To_R};
+constexpr Quantity pressure{
+    "--Units: bar",         Units::Pressure_Pa_To_bar,
+    "--Units: psia",        Units::Pressure_Pa_To_psi};
+constexpr Quantity molarVolume{
+    "--Units: m3/kg-mole",  Units::MolarVolume_m3gmmol_To_m3kgmol,
+    "--Units: ft3/lb-mole", Units::MolarVolume_m3gmmol_To_ft3lbmol};
+// clang-format on
+
+// A section of one property: its keyword, what it measures, where the value comes from.
+struct PropertySection {
+    const char* keyword;
+    Quantity quantity;
+    pvtEnumPropertySource (FluidComponent::*source)() const;
+    double (FluidComponent::*value)() const;
+};
+
+using FC = FluidComponent;
+// clang-format off
 constexpr PropertySection molecularWeight{
-    "MW", &FluidComponent::GetMolecularWeightSource, &FluidComponent::GetMolecularWeight,
-    noUnit, AsItIs, noUnit, AsItIs};
+    "MW",       dimensionless, &FC::GetMolecularWeightSource, &FC::GetMolecularWeight};
 constexpr PropertySection omegaA{
-    "OMEGAA", &FluidComponent::GetOmegaASource, &FluidComponent::GetOmegaA,
-    noUnit, AsItIs, noUnit, AsItIs};
+    "OMEGAA",   dimensionless, &FC::GetOmegaASource,          &FC::GetOmegaA};
 constexpr PropertySection omegaB{
-    "OMEGAB", &FluidComponent::GetOmegaBSource, &FluidComponent::GetOmegaB,
-    noUnit, AsItIs, noUnit, AsItIs};
+    "OMEGAB",   dimensionless, &FC::GetOmegaBSource,          &FC::GetOmegaB};
 constexpr PropertySection criticalTemperature{
-    "TCRIT", &FluidComponent::GetTcritSource, &FluidComponent::GetTcrit,
-    "--Units: K", AsItIs,
-    "--Units: R", Units::Temperature_K_To_R};
+    "TCRIT",    temperature,   &FC::GetTcritSource,           &FC::GetTcrit};
 constexpr PropertySection criticalPressure{
-    "PCRIT", &FluidComponent::GetPcritSource, &FluidComponent::GetPcrit,
-    "--Units: bar", Units::Pressure_Pa_To_bar,
-    "--Units: psia", Units::Pressure_Pa_To_psi};
+    "PCRIT",    pressure,      &FC::GetPcritSource,           &FC::GetPcrit};
 constexpr PropertySection criticalVolume{
-    "VCRIT", &FluidComponent::GetVcritSource, &FluidComponent::GetVcrit,
-    "--Units: m3/kg-mole", Units::MolarVolume_m3gmmol_To_m3kgmol,
-    "--Units: ft3/lb-mole", Units::MolarVolume_m3gmmol_To_ft3lbmol};
+    "VCRIT",    molarVolume,   &FC::GetVcritSource,           &FC::GetVcrit};
 constexpr PropertySection criticalZFactor{
-    "ZCRIT", &FluidComponent::GetZcritSource, &FluidComponent::GetZcrit,
-    noUnit, AsItIs, noUnit, AsItIs};
+    "ZCRIT",    dimensionless, &FC::GetZcritSource,           &FC::GetZcrit};
 constexpr PropertySection acentricFactor{
-    "ACF", &FluidComponent::GetAcfSource, &FluidComponent::GetAcf,
-    noUnit, AsItIs, noUnit, AsItIs};
+    "ACF",      dimensionless, &FC::GetAcfSource,             &FC::GetAcf};
 constexpr PropertySection parachor{
-    "PARACHOR", &FluidComponent::GetParachorSource, &FluidComponent::GetParachor,
-    noUnit, AsItIs, noUnit, AsItIs};
+    "PARACHOR", dimensionless, &FC::GetParachorSource,        &FC::GetParachor};
 constexpr PropertySection criticalVolumeForViscosity{
-    "VCRITVIS", &FluidComponent::GetVcritViscositySource, &FluidComponent::GetVcritViscosity,
-    "--Units: m3/kg-mole", Units::MolarVolume_m3gmmol_To_m3kgmol,
-    "--Units: ft3/lb-mole", Units::MolarVolume_m3gmmol_To_ft3lbmol};
+    "VCRITVIS", molarVolume,   &FC::GetVcritViscositySource,  &FC::GetVcritViscosity};
 // clang-format on
 
 constexpr const char* separator = "--";
 constexpr const char* noValue = "0.0";
 constexpr const char* noVolumeShift = "0";
-constexpr std::size_t longestInteractionLine = 76;
+constexpr std::size_t fullInteractionLine = 76;
+constexpr std::size_t longestSixDigitNumber = 13; // -1.23457e-300
 
 void BeginSection(std::ostream& deck, const char* keyword) {
     WriteDeckLine(deck, keyword);
@@ -96,8 +105,9 @@ void EndSection(std::ostream& deck) {
 
 void WriteSection(std::ostream& deck, const PropertySection& section, const Components& components,
                   std::size_t n, bool metric) {
-    const char* const unit = metric ? section.metricUnit : section.fieldUnit;
-    const Conversion convert = metric ? section.toMetric : section.toField;
+    const Quantity& quantity = section.quantity;
+    const char* const unit = metric ? quantity.metricUnit : quantity.fieldUnit;
+    const Conversion convert = metric ? quantity.toMetric : quantity.toField;
     if (unit != noUnit) {
         WriteDeckLine(deck, unit);
     }
@@ -127,31 +137,39 @@ bool HasVolumeShift(pvtEnumEoS eos) {
            eos == pvtEnumEoS::SoaveRedlichKwongVolumeShift;
 }
 
-// Writes a row of the interaction matrix: the component `row` with every one before it.
-//
-// A line is broken ahead of a known value that would make it too long, where the value counts with
-// the six digits of a plain text stream though it is written with ten.
+// Whether a line of this length is broken ahead of a known value. The value counts with the six
+// digits of a plain text stream and a blank, though it is written with ten digits.
+bool IsFull(std::size_t lineLength, double next) {
+    if (lineLength + longestSixDigitNumber + 1 < fullInteractionLine) {
+        return false;
+    }
+    std::string measure;
+    AppendNumber(measure, next, {});
+    return lineLength + measure.size() + 1 >= fullInteractionLine;
+}
+
+// Writes a row of the interaction matrix: the component `row` with every one before it. All lines
+// of the row go to the file at once, because a flush per line takes longer than the numbers.
 void WriteInteractionRow(std::ostream& deck, const CompositionalFluid& fluid,
-                         const std::vector<std::string>& names, std::size_t row, std::string& line,
-                         std::string& measure) {
+                         const std::vector<std::string>& names, std::size_t row,
+                         std::string& lines) {
     constexpr auto set = pvtEnumBICType::ReservoirEoS;
+    std::size_t lineBegin = 0;
     for (std::size_t column = 0; column < row; ++column) {
         if (fluid.GetBICSource(names[row], names[column], set) == pvtEnumPropertySource::None) {
-            line += "0.0 ";
+            lines += "0.0 ";
             continue;
         }
         const double value = fluid.GetBIC(names[row], names[column], set);
-        measure.clear();
-        AppendNumber(measure, value, {});
-        measure += ' ';
-        if (line.size() + measure.size() >= longestInteractionLine) {
-            WriteDeckLine(deck, line);
+        if (IsFull(lines.size() - lineBegin, value)) {
+            lines += '\n';
+            lineBegin = lines.size();
         }
-        AppendNumber(line, value, deckNumber);
-        line += ' ';
+        AppendNumber(lines, value, deckNumber);
+        lines += ' ';
     }
-    if (!line.empty()) {
-        WriteDeckLine(deck, line);
+    if (!lines.empty()) {
+        WriteDeckLine(deck, lines);
     }
 }
 
@@ -233,10 +251,9 @@ void WriteAcentricFactors(std::ostream& deck, const Components& components, std:
 void WriteBinaryInteractions(std::ostream& deck, const CompositionalFluid& fluid, std::size_t n) {
     BeginSection(deck, "BIC");
     const std::vector<std::string> names = fluid.ListComponents();
-    std::string line;
-    std::string measure;
+    std::string lines;
     for (std::size_t row = 0; row < n; ++row) {
-        WriteInteractionRow(deck, fluid, names, row, line, measure);
+        WriteInteractionRow(deck, fluid, names, row, lines);
     }
     EndSection(deck);
 }
