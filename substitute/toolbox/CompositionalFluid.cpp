@@ -65,6 +65,10 @@ void CompositionalFluidCommand::SetComponent(const Model::FluidComponent& compon
         components_[*index].fraction = fraction;
         return;
     }
+    if (FindGlobal(componentName)) {
+        throw std::invalid_argument("Another component already bears the global name '" +
+                                    componentName + "'");
+    }
     const std::size_t index = components_.size();
     components_.push_back({component, fraction, componentName});
     indexOfName_.emplace(componentName, index);

@@ -42,7 +42,8 @@ public:
     std::size_t GetGlobal(const std::string& globalName) const;
 
     /// Adds a component, or replaces the one of that name in its place. Throws
-    /// `PropertyOutOfRangeException` for a fraction that is negative or not finite.
+    /// `PropertyOutOfRangeException` for a fraction that is negative or not finite, and
+    /// `std::invalid_argument` for a new component whose name is another one's global name.
     void SetComponent(const Model::FluidComponent& component, double fraction);
     void SetGlobalName(std::size_t index, const std::string& globalName);
 

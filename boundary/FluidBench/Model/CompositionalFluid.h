@@ -47,7 +47,8 @@ public:
 
     /// Adds a copy of the component, or replaces the one of the same name in its place. Fractions
     /// are kept as given: not normalised and not converted. Throws `PropertyOutOfRangeException`
-    /// for a fraction that is negative or not finite.
+    /// for a fraction that is negative or not finite, and `std::invalid_argument` for a new
+    /// component whose name is another one's global name.
     void SetComponent(const FluidComponent& component, double fraction);
 
     /// Sets the binary interaction coefficient of two different components, in either order. Throws

@@ -15,7 +15,8 @@ namespace Orv::FluidBench::Model {
 /// A value getter of a property without a value gives 0.0. A setter that refuses its argument
 /// leaves the component as it was. Each throws `PropertyOutOfRangeException` for a value that isn't
 /// finite, and, unless it says otherwise, for one below zero. Zero is legal everywhere: files use
-/// it for a value that isn't known.
+/// it for a value that isn't known. A component that was moved from may only be assigned to or
+/// destroyed.
 class FLUIDBENCH_BOUNDARY_API FluidComponent {
 public:
     /// A component without properties. Throws `EmptyComponentNameException` when `name` is empty or

@@ -12,7 +12,7 @@ namespace Orv::Kes::KesModel {
 ///
 /// The stand-in's deck remembers its file and no more. What the deck holds is found out when the
 /// interpreter asks for keywords, because only then it is known which ones matter; so a bad deck
-/// fails in `KesFluidModel::createFromKeywords`. docs/formats/pvo-deck.md tells the deck's syntax.
+/// fails in `KesFluidModel::createFromKeywords`. docs/formats/deck.md tells the deck's syntax.
 class FLUIDBENCH_BOUNDARY_API Deck {
 public:
     /// Units of the deck's numbers. The stand-in leaves numbers as they are.
