@@ -26,6 +26,7 @@ using Common::pvtEnumInterfacialTensionMethod;
 using Common::pvtEnumStandardConditions;
 using Common::pvtEnumViscosityMethod;
 using Common::RelatedPropertyOutOfRangeException;
+using Common::Units;
 using Kes::KesModel::Log;
 using Kes::SimFluid::IComponent;
 using Kes::SimFluid::IInitialCondition;
@@ -58,36 +59,50 @@ constexpr int lohrenzBrayClarkCode = 0;
 constexpr int pedersenCode = 1;
 constexpr int parachorCode = 0;
 
+// What the numbers of a deck measure, and how many canonical units make one of the model's.
+struct Quantity {
+    const char* measurement; // null for a number without a unit
+    double canonicalUnits;
+};
+constexpr Quantity number{nullptr, 1.0};
+constexpr Quantity pressure{"Pressure", 1.0};
+constexpr Quantity density{"Density", 1.0};
+constexpr Quantity temperature{"AbsoluteTemperature", 1.0};
+constexpr Quantity molarVolume{"MolarVolume", 1000.0}; // per gram-mole, not per kilogram-mole
+
 // What a component has of its own, in the order in which it is copied. The reference density, which
 // takes two properties, comes between the two tables.
 struct CopiedProperty {
     IComponent::Property key;
-    const char* measurement; // null for a number without a unit
-    double divisor;          // from the canonical unit to the model's
+    const Quantity& quantity;
     void (FluidComponent::*set)(double);
 };
-constexpr const char* noUnit = nullptr;
-constexpr double gramMolesPerKilogramMole = 1000.0;
 
 // clang-format off
 constexpr CopiedProperty beforeReferenceDensity[] = {
-    {IComponent::MOLECULAR_WEIGHT,              noUnit,                1.0, &FluidComponent::SetMolecularWeight},
-    {IComponent::CRITICAL_PRESSURE,             "Pressure",            1.0, &FluidComponent::SetPcrit},
+    {IComponent::MOLECULAR_WEIGHT,              number,      &FluidComponent::SetMolecularWeight},
+    {IComponent::CRITICAL_PRESSURE,             pressure,    &FluidComponent::SetPcrit},
 };
 constexpr CopiedProperty behindReferenceDensity[] = {
-    {IComponent::CRITICAL_TEMPERATURE,          "AbsoluteTemperature", 1.0, &FluidComponent::SetTcrit},
-    {IComponent::CRITICAL_Z_FACTOR,             noUnit,                1.0, &FluidComponent::SetZcrit},
-    {IComponent::CRITICAL_VOLUME,               "MolarVolume",         gramMolesPerKilogramMole, &FluidComponent::SetVcrit},
-    {IComponent::CRITICAL_VOLUME_FOR_VISCOSITY, "MolarVolume",         gramMolesPerKilogramMole, &FluidComponent::SetVcritViscosity},
-    {IComponent::ACENTRIC_FACTOR,               noUnit,                1.0, &FluidComponent::SetAcf},
-    {IComponent::PARACHOR,                      noUnit,                1.0, &FluidComponent::SetParachor},
-    {IComponent::VOLUME_SHIFT,                  noUnit,                1.0, &FluidComponent::SetEoSVolumeShift},
-    {IComponent::OMEGA_A,                       noUnit,                1.0, &FluidComponent::SetOmegaA},
-    {IComponent::OMEGA_B,                       noUnit,                1.0, &FluidComponent::SetOmegaB},
-    {IComponent::HEAT_OF_VAPORISATION,          noUnit,                1.0, &FluidComponent::SetHeatVapourisation},
-    {IComponent::THERMAL_EXPANSION,             noUnit,                1.0, &FluidComponent::SetThermExpCoeff},
+    {IComponent::CRITICAL_TEMPERATURE,          temperature, &FluidComponent::SetTcrit},
+    {IComponent::CRITICAL_Z_FACTOR,             number,      &FluidComponent::SetZcrit},
+    {IComponent::CRITICAL_VOLUME,               molarVolume, &FluidComponent::SetVcrit},
+    {IComponent::CRITICAL_VOLUME_FOR_VISCOSITY, molarVolume, &FluidComponent::SetVcritViscosity},
+    {IComponent::ACENTRIC_FACTOR,               number,      &FluidComponent::SetAcf},
+    {IComponent::PARACHOR,                      number,      &FluidComponent::SetParachor},
+    {IComponent::VOLUME_SHIFT,                  number,      &FluidComponent::SetEoSVolumeShift},
+    {IComponent::OMEGA_A,                       number,      &FluidComponent::SetOmegaA},
+    {IComponent::OMEGA_B,                       number,      &FluidComponent::SetOmegaB},
+    {IComponent::HEAT_OF_VAPORISATION,          number,      &FluidComponent::SetHeatVapourisation},
+    {IComponent::THERMAL_EXPANSION,             number,      &FluidComponent::SetThermExpCoeff},
 };
 // clang-format on
+
+double ToModel(double value, const Quantity& quantity, Units::UNIT_TYPE units) {
+    return quantity.measurement == nullptr
+               ? value
+               : ConvertToCanonical(value, quantity.measurement, units) / quantity.canonicalUnits;
+}
 
 // The standard conditions of a density, by their temperature in K. The first that fits counts.
 struct StandardConditions {
@@ -248,10 +263,8 @@ void PVOImporter::SetComponents(const PVOCompositionalModelAdaptor& model,
 void PVOImporter::FillComponent(const IComponent& source, FluidComponent& target) const {
     const auto copy = [&](const CopiedProperty& property) {
         if (source.hasProperty(property.key)) {
-            const double value = source.getProperty(property.key);
-            (target.*property.set)(property.measurement == noUnit
-                                       ? value
-                                       : Canonical(value, property.measurement) / property.divisor);
+            (target.*property.set)(ToModel(source.getProperty(property.key), property.quantity,
+                                           UnitTypeOf(unitSystem)));
         }
     };
     std::ranges::for_each(beforeReferenceDensity, copy);
@@ -266,20 +279,18 @@ void PVOImporter::FillReferenceDensity(const IComponent& source, FluidComponent&
         !source.hasProperty(IComponent::REFERENCE_TEMPERATURE)) {
         return;
     }
-    const double density = Canonical(source.getProperty(IComponent::REFERENCE_DENSITY), "Density");
-    const double temperature =
-        Canonical(source.getProperty(IComponent::REFERENCE_TEMPERATURE), "AbsoluteTemperature");
+    const auto value = [&](IComponent::Property key, const Quantity& quantity) {
+        return ToModel(source.getProperty(key), quantity, UnitTypeOf(unitSystem));
+    };
+    const double referenceDensity = value(IComponent::REFERENCE_DENSITY, density);
+    const double referenceTemperature = value(IComponent::REFERENCE_TEMPERATURE, temperature);
     for (const StandardConditions& standard : standardConditions) {
-        if (std::abs(temperature - standard.temperature) / standard.temperature <
+        if (std::abs(referenceTemperature - standard.temperature) / standard.temperature <
             temperatureTolerance) {
-            target.SetReferenceDensity(density, standard.conditions);
+            target.SetReferenceDensity(referenceDensity, standard.conditions);
             return;
         }
     }
-}
-
-double PVOImporter::Canonical(double value, const std::string& measurement) const {
-    return ConvertToCanonical(value, measurement, UnitTypeOf(unitSystem));
 }
 
 } // namespace Orv::FluidBench::Impl::IO

@@ -60,7 +60,6 @@ private:
                        Model::FluidComponent& target) const;
     void FillReferenceDensity(const Kes::SimFluid::IComponent& source,
                               Model::FluidComponent& target) const;
-    double Canonical(double value, const std::string& measurement) const;
 
     Common::pvtEnumPVOUnitSystemType unitSystem = Common::pvtEnumPVOUnitSystemType::Metric;
     Common::pvtEnumPVOErrorSeverityLevel severityLevel =
