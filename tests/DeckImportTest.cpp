@@ -45,6 +45,7 @@ struct Outcome {
     bool failed = false;
     std::string reason; // of the last message
     std::string errors; // as told to the log
+    std::string warnings;
     std::string debug;
     pvtEnumPVOUnitSystemType units{};
 };
@@ -61,6 +62,7 @@ Outcome ReadDeck(const std::string& path, bool detectUnitSystem = false,
     outcome.failed = report.HasErrors();
     outcome.reason = outcome.ids.empty() ? "" : report.GetMessages().back().GetText();
     outcome.errors = log.Of(Log::ERROR);
+    outcome.warnings = log.Of(Log::WARNING);
     outcome.debug = log.Of(Log::DEBUG);
     outcome.units = reader.GetPVOUnitSystemToUse();
     return outcome;
@@ -240,7 +242,7 @@ TEST_F(DeckImportTest, TellsWhatIsWrongAndLeavesABlankFluid) {
         {c12 + "MW\n16 30\n", "line 5, keyword MW: expected '/' behind as many numbers as "
                               "components (2), found the end of the file."},
         {c12 + "MW\n16 30\nTCRIT\n1 2 /\n",
-         "line 5, keyword MW: expected a number, found 'TCRIT'."},
+         "line 5, keyword MW: expected a number or '/', found 'TCRIT'."},
         {c12 + "MW\n16 3O.5 /\n", "line 4, keyword MW: expected a number, found '3O.5'."},
         {c12 + "MW\n16 '30' /\n", "line 4, keyword MW: expected a number, found '30'."},
         {c12 + "MW\n16\n/\n", "line 5, keyword MW: expected as many numbers as components (2), "
@@ -258,10 +260,22 @@ TEST_F(DeckImportTest, TellsWhatIsWrongAndLeavesABlankFluid) {
         {c12 + "MW\nnan 30 /\n", "line 4, keyword MW: expected a number, found 'nan'."},
         {c12 + "MW\n16 -inf /\n", "line 4, keyword MW: expected a number, found '-inf'."},
         {c12 + "MW\n16 1e999 /\n", "line 4, keyword MW: expected a number, found '1e999'."},
-        {c12 + "BIC\n1 2 /\n", "line 4, keyword BIC: expected at most 1 numbers, one for each pair "
-                               "of components, found '2' behind 1 of them."},
+        {c12 + "BIC\n1 2 /\n", "line 4, keyword BIC: expected at most one number for each pair of "
+                               "components (1), found '2' behind 1 of them."},
         {c12 + "NCOMPS\n3 /\n", "line 4, keyword NCOMPS: expected 2, the number of names under "
                                 "CNAMES, found 3."},
+        {c12 + "NCOMPS\n2 2 /\n",
+         "line 4, keyword NCOMPS: expected one whole number, found '2' behind it."},
+        {c12 + "FILEUNIT\nLAB /\n",
+         "line 4, keyword FILEUNIT: expected one of the words METRIC FIELD, found 'LAB'."},
+        {c12 + "ROCK\n1 2 /\nMW l6.04 30.07 /\n",
+         "line 5, keyword MW: expected a number, found 'l6.04'."},
+        {c12 + "ROCK\n1 2 /\nMW -inf 30.07 /\n",
+         "line 5, keyword MW: expected a number, found '-inf'."},
+        {c12 + "ZI\n0.5 0.5 /\nMW of the oil\n",
+         "line 5, keyword MW: expected a number, found 'of'."},
+        {"CNAMES\n" + std::string(100'000, '\'') + " /\n",
+         "line 2, keyword CNAMES: expected a name, found a quote that isn't closed on its line."},
         {c12 + "COMPS\n-2 /\n", "line 4, keyword COMPS: expected one whole number, found '-2'."},
         {c12 + "EOS\nPR2 /\n",
          "line 4, keyword EOS: expected one of the words PR RK SRK ZJ, found 'PR2'."},
@@ -288,6 +302,54 @@ TEST_F(DeckImportTest, TellsWhatIsWrongAndLeavesABlankFluid) {
         EXPECT_EQ(deck.fluid.GetName(), "");
         EXPECT_NE(deck.errors.find(c.error), std::string::npos) << deck.errors << c.error;
         EXPECT_NE(deck.errors.find(folder.Path().string()), std::string::npos) << deck.errors;
+    }
+}
+
+// What isn't read though somebody may have meant it.
+TEST_F(DeckImportTest, HintsAtKeywordsThatAreNotTaken) {
+    struct Case {
+        std::string text;
+        std::vector<double> molecularWeights;
+        const char* hint;
+    };
+    const std::string mw = twoComponents + "MW\n16 30 /\n";
+    const Case cases[] = {
+        {mw + "FILEUNIT\nMETRIC /\nPRCORR\n", {16, 30}, ""},
+        {twoComponents + "  MW\n\t16 30 /\n", {16, 30}, ""},
+        {twoComponents + "ROCK\n1 /\n  MW\n16 30 /\n",
+         {0, 0},
+         "line 5: MW isn't taken for the keyword because it doesn't begin at the head of its "
+         "line."},
+        {twoComponents + "mw\n16 30 /\n",
+         {0, 0},
+         "line 3: mw isn't taken for the keyword MW because it isn't in capitals."},
+        {twoComponents + "ROCK\n1 /\nMW of the oil\n",
+         {0, 0},
+         "line 5: MW isn't taken for the keyword because of the text behind it."},
+        {twoComponents + "ROCK\n1 /\nINCLUDE mw.inc /\n",
+         {0, 0},
+         "line 5: INCLUDE isn't taken for the keyword because no path in quotes is behind it."},
+        {mw + "MW\n17 31 /\n", {17, 31}, "line 5: MW stands a second time, and this time counts."},
+        {twoComponents + "ROCK\n1 2\nMW\n16 30 /\n",
+         {0, 0},
+         "line 5: MW is data of the record that is open since line 4."},
+        {mw + "ROCK\n1 2\n",
+         {16, 30},
+         "line 6: the record isn't closed by '/' before the end of the file."},
+        {mw + "GRID\nMW\n17 31 /\n", {16, 30}, "line 6: MW isn't read in section GRID."},
+        {mw + "SKIP\nMW\n17 31 /\nENDSKIP\nEND\nMW\n18 32 /\n", {16, 30}, ""},
+        {mw + "SKIP the rest\nEND of it\nMW\n17 31 /\n", {17, 31}, "a second time"},
+        {mw + "SKIP\nMW\n17 31 /\n",
+         {16, 30},
+         "line 5: SKIP isn't closed by ENDSKIP before the end of the file."},
+    };
+    for (const Case& c : cases) {
+        const Outcome deck = ReadText(c.text);
+        EXPECT_EQ(Values(deck.fluid, &FluidComponent::GetMolecularWeight), c.molecularWeights)
+            << c.text << deck.errors;
+        EXPECT_TRUE(*c.hint == '\0' ? deck.warnings.empty()
+                                    : deck.warnings.find(c.hint) != std::string::npos)
+            << c.text << deck.warnings;
     }
 }
 
@@ -394,6 +456,12 @@ TEST_F(DeckImportTest, FindsTheUnitSystemFromTheText) {
     const Outcome deck = ReadText(twoComponents + "--Units: R\nTCRIT\n180 1* /\n", true);
     EXPECT_DOUBLE_EQ(Values(deck.fluid, &FluidComponent::GetTcrit)[0], 100.0);
     EXPECT_EQ(ReadDeck(folder / "missing", true).units, metric); // as it was
+    // Where nothing tells, the log does. A line of any length is seen from its head.
+    EXPECT_NE(ReadText(twoComponents, true).warnings.find("taken as field units"),
+              std::string::npos);
+    const std::string longLine(300'000, ' ');
+    EXPECT_EQ(ReadText("FILEUNIT" + longLine + "\nMETRIC" + longLine, true).units, metric);
+    EXPECT_EQ(ReadText(longLine + "\nFILEUNIT\nMETRIC", true).units, metric);
 }
 
 TEST_F(DeckImportTest, SetsTheSeverityOfTheDefaultLoggerOnly) {

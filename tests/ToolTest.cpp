@@ -57,7 +57,7 @@ TEST_F(ToolTest, EndsWithTheStatusOfWhatHappened) {
         {"deck show --help", 0, "--units", ""},
         {"deck show", 2, "", "FILE"},
         {"deck show good.dat --units lab", 2, "", "lab"},
-        {"deck show good.dat", 0, "metric, as found from its text", ""},
+        {"deck show good.dat", 0, "metric, from its text", ""},
         {"deck show good.dat --units field", 0, "Tc R\nC1                     0   100\n", ""},
         {"deck show good.dat --show-in field", 0, "Tc R\nC1                     0   180\n", ""},
         {"deck show unknown.dat --verbose", 0, "C1", "keyword 'SWFN' is passed over"},

@@ -65,7 +65,7 @@ void Show(const Reading& reading, std::optional<UnitSystem> shown) {
     const ReadDeck deck = Read(reading);
     std::cout << "deck                   " << reading.fileName << '\n'
               << "units of the deck      " << (deck.units == UnitSystem::Field ? "field" : "metric")
-              << (reading.units ? ", as told" : ", as found from its text") << '\n';
+              << (reading.units ? ", as told" : ", from its text") << '\n';
     PrintFluid(std::cout, deck.fluid,
                shown.value_or(deck.units) == UnitSystem::Field ? FluidUnits::Field
                                                                : FluidUnits::Metric);
@@ -83,14 +83,15 @@ std::optional<double> ParseTemperature(std::string_view text) {
     double number = 0.0;
     const char* const end = text.data() + text.size();
     const auto [behind, error] = std::from_chars(text.data(), end, number);
-    if (error != std::errc() || !std::isfinite(number)) {
+    if (error != std::errc()) {
         return std::nullopt;
     }
     std::string_view unit(behind, static_cast<std::size_t>(end - behind));
     unit.remove_prefix(std::min(unit.find_first_not_of(' '), unit.size()));
     for (const Scale& scale : scales) {
-        if (scale.unit == unit) {
-            return number * scale.kelvinPerDegree + scale.kelvinAtZero;
+        const double kelvin = number * scale.kelvinPerDegree + scale.kelvinAtZero;
+        if (scale.unit == unit && std::isfinite(kelvin) && kelvin >= 0.0) {
+            return kelvin;
         }
     }
     return std::nullopt;

@@ -18,6 +18,11 @@ std::ofstream OpenForWriting(const std::string& fileName, std::span<char> buffer
     return file;
 }
 
+bool IsRegularFile(const std::string& fileName) {
+    std::error_code error;
+    return std::filesystem::is_regular_file(fileName, error);
+}
+
 std::ifstream OpenForReading(const std::string& fileName) {
     std::ifstream file;
     file.imbue(std::locale::classic());
@@ -29,10 +34,16 @@ std::ifstream OpenForReading(const std::string& fileName) {
     return file;
 }
 
-LineReader::LineReader(const std::string& fileName, std::size_t longestLine)
-    : file_(OpenForReading(fileName)), longestLine_(longestLine), isDone_(!file_.is_open()) {}
+LineReader::LineReader(const std::string& fileName, std::size_t longestLine, BehindCut behindCut)
+    : file_(OpenForReading(fileName)),
+      longestLine_(longestLine),
+      behindCut_(behindCut),
+      isDone_(!file_.is_open()) {}
 
 bool LineReader::Next(std::string_view& line) {
+    if (isInsideCutLine_) {
+        SkipRestOfLine();
+    }
     std::size_t searched = 0; // characters known to hold no newline
     while (!isDone_) {
         const char* const data = buffer_.data() + begin_;
@@ -48,13 +59,33 @@ bool LineReader::Next(std::string_view& line) {
         // One character more than the longest line may still be the carriage return of its end.
         if (fileEnded_ || available > longestLine_ + 1) {
             line = Take(available, 0);
-            isDone_ = true;
+            isInsideCutLine_ = !fileEnded_ && behindCut_ == BehindCut::NextLine;
+            isDone_ = !isInsideCutLine_;
             return true;
         }
         searched = available;
         ReadBlock();
     }
     return false;
+}
+
+void LineReader::SkipRestOfLine() {
+    isInsideCutLine_ = false;
+    for (;;) {
+        const std::size_t available = end_ - begin_;
+        const char* const data = buffer_.data() + begin_;
+        const void* const newline = std::memchr(data, '\n', available);
+        if (newline != nullptr) {
+            begin_ += static_cast<std::size_t>(static_cast<const char*>(newline) - data) + 1;
+            return;
+        }
+        begin_ = end_;
+        if (fileEnded_) {
+            isDone_ = true;
+            return;
+        }
+        ReadBlock();
+    }
 }
 
 // Keeps what wasn't given yet, in front, and reads behind it.
@@ -81,7 +112,7 @@ std::string_view LineReader::Take(std::size_t length, std::size_t lineEnd) {
     }
     if (line.size() > longestLine_) {
         line = line.substr(0, longestLine_);
-        isDone_ = true;
+        isDone_ = behindCut_ == BehindCut::Nothing;
     }
     return line;
 }

@@ -21,6 +21,10 @@ inline constexpr std::size_t blockSize = std::size_t{64} * 1024;
 /// its text than a stream's own; the buffer has to outlive the stream.
 std::ofstream OpenForWriting(const std::string& fileName, std::span<char> buffer = {});
 
+/// Whether there is a regular file of that name: not a folder, and not a pipe or a device, which
+/// may never end or never begin.
+bool IsRegularFile(const std::string& fileName);
+
 /// Opens a text file for reading. The stream isn't open where the file is missing, unreadable or a
 /// folder.
 std::ifstream OpenForReading(const std::string& fileName);
@@ -36,8 +40,13 @@ class LineReader {
 public:
     static constexpr std::size_t anyLength = std::numeric_limits<std::size_t>::max() - 2;
 
-    /// Opens the file. A line of more than `longestLine` characters is cut there and is the last.
-    explicit LineReader(const std::string& fileName, std::size_t longestLine = anyLength);
+    /// What follows a line that is cut because it is too long.
+    enum class BehindCut { Nothing, NextLine };
+
+    /// Opens the file. A line of more than `longestLine` characters is cut there, and is the last
+    /// one unless told otherwise.
+    explicit LineReader(const std::string& fileName, std::size_t longestLine = anyLength,
+                        BehindCut behindCut = BehindCut::Nothing);
 
     bool IsOpen() const { return file_.is_open(); }
 
@@ -47,13 +56,16 @@ public:
 
 private:
     void ReadBlock();
+    void SkipRestOfLine();
     std::string_view Take(std::size_t length, std::size_t lineEnd);
 
     std::ifstream file_;
     std::size_t longestLine_;
+    BehindCut behindCut_;
     std::vector<char> buffer_;
     std::size_t begin_ = 0; // of what is in the buffer and wasn't given yet
     std::size_t end_ = 0;
+    bool isInsideCutLine_ = false;
     bool fileEnded_ = false;
     bool isDone_ = false;
 };

@@ -29,24 +29,41 @@ constexpr Section sections[] = {
 constexpr bool IsLetter(char c) noexcept {
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
+constexpr bool IsSmallLetter(char c) noexcept {
+    return c >= 'a' && c <= 'z';
+}
 constexpr bool IsDigit(char c) noexcept {
     return c >= '0' && c <= '9';
 }
 
-bool IsKeyword(const DeckToken& token) {
-    return token.kind == Kind::Word && token.isAtHeadOfLine && IsLetter(token.text[0]) &&
+bool LooksLikeKeyword(const DeckToken& token) {
+    return token.kind == Kind::Word && IsLetter(token.text[0]) &&
            std::ranges::all_of(token.text, [](char c) { return IsLetter(c) || IsDigit(c); });
+}
+bool IsKeyword(const DeckToken& token) {
+    return token.isAtHeadOfLine && LooksLikeKeyword(token);
 }
 
 bool EndsLine(const DeckToken& token) noexcept {
     return token.kind == Kind::LineEnd || token.kind == Kind::FileEnd;
 }
 
-// "16.04", and "16.o4" as well: whoever wrote that meant a number.
 bool BeginsLikeNumber(const DeckToken& token) noexcept {
     const std::size_t first = token.text.find_first_not_of("+-.");
     return token.kind == Kind::Word && first != std::string_view::npos &&
            IsDigit(token.text[first]);
+}
+
+// "16.04", and also "l6.04", "*16" and "nan": whoever wrote that meant a number.
+bool IsMeantAsNumber(const DeckToken& token) {
+    if (token.kind != Kind::Word || BeginsLikeNumber(token)) {
+        return token.kind == Kind::Word;
+    }
+    const bool hasDigit = std::ranges::any_of(token.text, IsDigit);
+    const std::string word = Capitals(
+        token.text.substr(std::min(token.text.find_first_not_of("+-"), token.text.size())));
+    return (hasDigit && token.text.find_first_of(".*") != std::string_view::npos) ||
+           word == "NAN" || word == "INF" || word == "INFINITY";
 }
 
 // A number, a quoted text, or either with a repeat count.
@@ -84,8 +101,11 @@ private:
     enum class Record { Closed, Open, None };
 
     void ReadLine(DeckLexer& deck, const DeckToken& first);
+    bool IsIndentedKeyword(const DeckToken& first, const DeckLexer& deck);
     void ReadKeyword(DeckLexer& deck, const std::string& keyword);
     void ReadTitle(DeckLexer& deck);
+    void ReadEnd(DeckLexer& deck);
+    void ReadSkip(DeckLexer& deck);
     void ReadSection(DeckLexer& deck, const Section& section);
     void ReadInclude(DeckLexer& deck);
     void ReadWanted(DeckLexer& deck, const std::string& keyword, KeywordData data);
@@ -93,14 +113,12 @@ private:
     void ReadFreeText(DeckLexer& deck);
 
     static Record ReadRestOfDataLine(DeckLexer& deck);
-    void SkipRecord(DeckLexer& deck, Record record, KeywordData data = KeywordData::Numbers);
+    void SkipRecord(DeckLexer& deck, Record record, std::uint64_t opened,
+                    KeywordData data = KeywordData::Numbers);
     void Include(const std::string& path, const DeckLine& line);
-    void Remember(KeywordPlace place);
-    void Hint(const DeckLine& line, const std::string& text);
-
-    static DeckLine LineOf(const DeckLexer& deck) {
-        return {deck.File().Name(), deck.File().Line()};
-    }
+    void Remember(const DeckLexer& deck, KeywordPlace place);
+    void HintAtCapitals(const DeckLexer& deck, const std::string& keyword);
+    void Hint(const DeckLexer& deck, std::uint64_t line, const std::string& text);
 
     const DeckIndex::Wanted& wanted_;
     const DeckObserver& observer_;
@@ -110,11 +128,12 @@ private:
     std::size_t hints_ = 0;
     const Section* section_ = nullptr; // none ahead of the first section
     Context context_ = Context::WantedKeyword;
+    bool hasEnded_ = false; // by the keyword
 };
 
 std::uint64_t IndexBuilder::ReadFile(DeckLexer& deck) {
     openFiles_.emplace_back(deck.File().Name());
-    for (;;) {
+    while (!hasEnded_) {
         const DeckToken first = deck.Next();
         if (first.kind == Kind::FileEnd) {
             break;
@@ -126,7 +145,7 @@ std::uint64_t IndexBuilder::ReadFile(DeckLexer& deck) {
 }
 
 void IndexBuilder::ReadLine(DeckLexer& deck, const DeckToken& first) {
-    if (IsKeyword(first)) {
+    if (IsKeyword(first) || IsIndentedKeyword(first, deck)) {
         ReadKeyword(deck, std::string(first.text));
     } else if (first.kind == Kind::Slash) {
         deck.SkipLine();
@@ -134,12 +153,28 @@ void IndexBuilder::ReadLine(DeckLexer& deck, const DeckToken& first) {
         return;
     } else if (!IsData(first)) {
         ReadFreeText(deck);
-    } else if (context_ != Context::FreeText) {
-        SkipRecord(deck, Record::Open);
     } else {
+        const std::uint64_t opened = deck.File().Line();
         // "3 wells aren't drilled yet" is more text, "3 1* /" isn't.
-        SkipRecord(deck, ReadRestOfDataLine(deck));
+        SkipRecord(deck, context_ == Context::FreeText ? ReadRestOfDataLine(deck) : Record::Open,
+                   opened);
     }
+}
+
+// Between records an indented word may well be meant as a keyword. Where it may as well be the data
+// of a keyword that isn't known, a hint has to do.
+bool IndexBuilder::IsIndentedKeyword(const DeckToken& first, const DeckLexer& deck) {
+    if (first.isAtHeadOfLine || !LooksLikeKeyword(first) ||
+        !(wanted_(first.text) || first.text == "INCLUDE" ||
+          std::ranges::find(sections, first.text, &Section::name) != std::end(sections))) {
+        return false;
+    }
+    if (context_ != Context::WantedKeyword) {
+        Hint(deck, deck.File().Line(),
+             std::string(first.text) + " isn't taken for the keyword because it doesn't begin at "
+                                       "the head of its line");
+    }
+    return context_ == Context::WantedKeyword;
 }
 
 void IndexBuilder::ReadKeyword(DeckLexer& deck, const std::string& keyword) {
@@ -149,13 +184,20 @@ void IndexBuilder::ReadKeyword(DeckLexer& deck, const std::string& keyword) {
         ReadTitle(deck);
     } else if (keyword == "INCLUDE") {
         ReadInclude(deck);
+    } else if (keyword == "SKIP") {
+        ReadSkip(deck);
+    } else if (keyword == "END") {
+        ReadEnd(deck);
     } else if (section != std::end(sections)) {
         ReadSection(deck, *section);
     } else if (const auto data = wanted_(keyword); data && mayBeWanted) {
         ReadWanted(deck, keyword, *data);
     } else {
         if (data) {
-            Hint(LineOf(deck), keyword + " isn't read in section " + std::string(section_->name));
+            Hint(deck, deck.File().Line(),
+                 keyword + " isn't read in section " + std::string(section_->name));
+        } else if (std::ranges::any_of(keyword, IsSmallLetter)) {
+            HintAtCapitals(deck, keyword);
         }
         ReadUnwanted(deck, keyword);
     }
@@ -167,6 +209,38 @@ void IndexBuilder::ReadTitle(DeckLexer& deck) {
     }
     ReadFreeText(deck);
     context_ = Context::OtherKeyword;
+}
+
+// What stands behind END isn't read. "END of the deck" is free text.
+void IndexBuilder::ReadEnd(DeckLexer& deck) {
+    const DeckToken next = deck.Next();
+    hasEnded_ = EndsLine(next) || next.kind == Kind::Slash;
+    if (!hasEnded_) {
+        ReadFreeText(deck);
+    }
+}
+
+// Everything up to ENDSKIP is put out of force.
+void IndexBuilder::ReadSkip(DeckLexer& deck) {
+    const std::uint64_t opened = deck.File().Line();
+    if (!EndsLine(deck.Next())) {
+        ReadFreeText(deck);
+        return;
+    }
+    for (;;) {
+        const DeckToken first = deck.Next();
+        if (first.kind == Kind::FileEnd) {
+            Hint(deck, opened, "SKIP isn't closed by ENDSKIP before the end of the file");
+            return;
+        }
+        if (first.kind != Kind::LineEnd) {
+            const bool isEnd = IsKeyword(first) && first.text == "ENDSKIP";
+            deck.SkipLine();
+            if (isEnd) {
+                return;
+            }
+        }
+    }
 }
 
 // A row of dots or dashes behind a section's name is ornament.
@@ -183,15 +257,16 @@ void IndexBuilder::ReadSection(DeckLexer& deck, const Section& section) {
 }
 
 void IndexBuilder::ReadWanted(DeckLexer& deck, const std::string& keyword, KeywordData data) {
-    KeywordPlace place{keyword, LineOf(deck), deck.File().Offset()};
+    KeywordPlace place{keyword, {deck.File().Name(), deck.File().Line()}, deck.File().Offset()};
     DeckToken next = deck.Next();
     bool isKeyword = EndsLine(next) || next.kind == Kind::Slash;
     if (!isKeyword) {
         switch (data) {
         case KeywordData::None:
+            isKeyword = context_ == Context::WantedKeyword;
             break;
         case KeywordData::Numbers:
-            isKeyword = BeginsLikeNumber(next) || context_ == Context::WantedKeyword;
+            isKeyword = IsMeantAsNumber(next) || context_ == Context::WantedKeyword;
             break;
         case KeywordData::Word: {
             const bool isQuoted = next.kind == Kind::Quoted;
@@ -206,43 +281,42 @@ void IndexBuilder::ReadWanted(DeckLexer& deck, const std::string& keyword, Keywo
         }
     }
     if (!isKeyword) {
-        Hint(place.line, keyword + " isn't taken for the keyword because of the text behind it");
+        Hint(deck, place.line.line,
+             keyword + " isn't taken for the keyword because of the text behind it");
         if (!EndsLine(next)) {
             ReadFreeText(deck);
         }
         return;
     }
-    if (next.kind == Kind::Slash) {
+    if (next.kind == Kind::Slash || (data == KeywordData::None && !EndsLine(next))) {
         deck.SkipLine();
     } else if (data != KeywordData::None) {
-        SkipRecord(deck, Record::Open, data);
+        SkipRecord(deck, Record::Open, place.line.line, data);
     }
     context_ = Context::WantedKeyword;
-    Remember(std::move(place));
+    Remember(deck, std::move(place));
 }
 
 void IndexBuilder::ReadUnwanted(DeckLexer& deck, const std::string& keyword) {
-    const DeckLine line = LineOf(deck);
+    const std::uint64_t line = deck.File().Line();
+    const Context before = context_;
     const DeckToken next = deck.Next();
     Record record = Record::Closed;
+    context_ = Context::OtherKeyword;
     if (next.kind == Kind::Slash) {
         deck.SkipLine();
+    } else if (!EndsLine(next) && !IsData(next)) {
+        ReadFreeText(deck);
     } else if (!EndsLine(next)) {
-        if (!IsData(next)) {
-            ReadFreeText(deck);
-            return;
-        }
         record = ReadRestOfDataLine(deck);
-        if (record == Record::None) {
-            context_ = Context::FreeText;
-            return;
-        }
+        context_ = record == Record::None ? Context::FreeText : Context::OtherKeyword;
     }
-    context_ = Context::OtherKeyword;
-    if (observer_.passedOver) {
-        observer_.passedOver(keyword, line);
+    if (observer_.passedOver && (context_ != Context::FreeText || before != Context::FreeText)) {
+        observer_.passedOver(keyword, deck.File().Name(), line);
     }
-    SkipRecord(deck, record);
+    if (context_ == Context::OtherKeyword) {
+        SkipRecord(deck, record, line);
+    }
 }
 
 void IndexBuilder::ReadFreeText(DeckLexer& deck) {
@@ -268,8 +342,8 @@ IndexBuilder::Record IndexBuilder::ReadRestOfDataLine(DeckLexer& deck) {
 // Words in an open record are data, whatever they look like. When it was left open by mistake, the
 // keywords that stand in it are missing afterwards, which is hard to find out without a hint. The
 // one word that a record should have may well be a keyword too, as METRIC is under FILEUNIT.
-void IndexBuilder::SkipRecord(DeckLexer& deck, Record record, KeywordData data) {
-    const DeckLine opened = LineOf(deck);
+void IndexBuilder::SkipRecord(DeckLexer& deck, Record record, std::uint64_t opened,
+                              KeywordData data) {
     bool isExpectedWord = data == KeywordData::Word;
     while (record == Record::Open) {
         deck.SkipPlainText();
@@ -278,21 +352,23 @@ void IndexBuilder::SkipRecord(DeckLexer& deck, Record record, KeywordData data) 
             deck.SkipLine();
             record = Record::Closed;
         } else if (token.kind == Kind::FileEnd) {
-            Hint(opened, "the record isn't closed by '/' before the end of the file");
+            Hint(deck, opened, "the record isn't closed by '/' before the end of the file");
             record = Record::None;
         } else if (IsKeyword(token) && wanted_(token.text) && !isExpectedWord) {
-            Hint(LineOf(deck), std::string(token.text) +
-                                   " is data of the record that is open since line " +
-                                   std::to_string(opened.line));
+            Hint(deck, deck.File().Line(),
+                 std::string(token.text) + " is data of the record that is open since line " +
+                     std::to_string(opened));
         }
         isExpectedWord = isExpectedWord && token.kind == Kind::LineEnd;
     }
 }
 
 void IndexBuilder::ReadInclude(DeckLexer& deck) {
-    const DeckLine line = LineOf(deck);
+    const DeckLine line{deck.File().Name(), deck.File().Line()};
     DeckToken path = deck.Next();
     if (path.kind == Kind::Word && context_ != Context::WantedKeyword) {
+        Hint(deck, line.line,
+             "INCLUDE isn't taken for the keyword because no path in quotes is behind it");
         ReadFreeText(deck);
         return;
     }
@@ -342,20 +418,29 @@ void IndexBuilder::Include(const std::string& path, const DeckLine& line) {
     ReadFile(*deck);
 }
 
-void IndexBuilder::Remember(KeywordPlace place) {
+void IndexBuilder::Remember(const DeckLexer& deck, KeywordPlace place) {
     const auto earlier = std::ranges::find(keywords_, place.keyword, &KeywordPlace::keyword);
     if (earlier != keywords_.end()) {
-        Hint(place.line, place.keyword + " stands a second time, and this time counts");
+        Hint(deck, place.line.line, place.keyword + " stands a second time, and this time counts");
         keywords_.erase(earlier);
     }
     keywords_.push_back(std::move(place));
 }
 
-void IndexBuilder::Hint(const DeckLine& line, const std::string& text) {
+void IndexBuilder::HintAtCapitals(const DeckLexer& deck, const std::string& keyword) {
+    const std::string capitals = Capitals(keyword);
+    if (wanted_(capitals) || capitals == "INCLUDE") {
+        Hint(deck, deck.File().Line(),
+             keyword + " isn't taken for the keyword " + capitals +
+                 " because it isn't in capitals");
+    }
+}
+
+void IndexBuilder::Hint(const DeckLexer& deck, std::uint64_t line, const std::string& text) {
     constexpr std::size_t mostHints = 50;
     if (observer_.hint && hints_ < mostHints) {
         ++hints_;
-        observer_.hint(Describe(line) + ": " + text + ".");
+        observer_.hint(Describe(DeckLine{deck.File().Name(), line}) + ": " + text + ".");
     }
 }
 

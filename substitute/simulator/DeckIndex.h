@@ -31,7 +31,8 @@ struct KeywordPlace {
 /// What an index tells while it is made. Any of the functions may be empty.
 struct DeckObserver {
     /// A keyword that nobody wants.
-    std::function<void(std::string_view keyword, const DeckLine&)> passedOver;
+    std::function<void(std::string_view keyword, const std::string& file, std::uint64_t line)>
+        passedOver;
     /// Something that may explain what looks wrong afterwards, as a sentence.
     std::function<void(const std::string&)> hint;
 };
@@ -53,19 +54,23 @@ struct DeckObserver {
 ///     P1 OPEN ORAT 5 /         neither wanted nor a record: the line is passed over
 ///     INCLUDE
 ///     'pvt/oil.inc' /          goes on in that file, and then here
+///     SKIP
+///     MW                       not read, up to the line ENDSKIP
+///     END                      alone on its line: what is behind it isn't read
 ///
-/// A keyword is a word of letters and digits that begins with a letter at column one. An indented
-/// word is data. Where free text or a list of words begins with a wanted keyword, what stands
-/// behind it on the line decides: "MW of the oil" isn't the keyword MW, but "MW 16.04 30.07 /" is.
-/// A line that directly follows a wanted keyword's record gets no such leniency, so that a typing
-/// error in it is found.
+/// A keyword is a word of capitals and digits that begins with a letter at column one. An indented
+/// word is data, unless it directly follows a wanted keyword's record and is wanted as well. Where
+/// free text or a list of words begins with a wanted keyword, what stands behind it on the line
+/// decides: "MW of the oil" isn't the keyword MW, but "MW 16.04 30.07 /" is. A line that directly
+/// follows a wanted keyword's record gets no such leniency, so that a typing error in it is found.
+/// The observer gets a hint wherever a wanted keyword may have been meant and isn't taken.
 class DeckIndex {
 public:
     /// How a wanted keyword's data looks; nothing for a keyword that isn't wanted.
     using Wanted = std::function<std::optional<KeywordData>(std::string_view keyword)>;
 
     static constexpr std::size_t deepestInclude = 16;
-    static constexpr std::size_t mostIncludes = 1000;
+    static constexpr std::size_t mostIncludes = 10'000;
 
     /// Throws `DeckError` for a deck or an included file that can't be opened, and for an include
     /// that isn't understood, comes back to a file that is being read, or exceeds the bounds.

@@ -39,6 +39,25 @@ bool Contains(std::string_view text, char c) noexcept {
     return text.find(c) != std::string_view::npos;
 }
 
+// Whether what stands in front of a slash has that slash outside of quotes and comments for sure:
+// every quote in it opens behind a blank and closes ahead of one.
+bool IsOutsideQuotes(std::string_view text) noexcept {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '-' && text.substr(i).starts_with("--")) {
+            return false;
+        }
+        if (IsQuote(text[i])) {
+            const std::size_t close = text.find(text[i], i + 1);
+            if ((i > 0 && !IsBlank(text[i - 1])) || close == std::string_view::npos ||
+                (close + 1 < text.size() && !IsBlank(text[close + 1]))) {
+                return false;
+            }
+            i = close;
+        }
+    }
+    return true;
+}
+
 // Whether a quoted text can end in front of `rest`.
 bool Separates(std::string_view rest) noexcept {
     return rest.empty() || IsBlank(rest[0]) || rest[0] == '\n' || rest[0] == '/' ||
@@ -66,10 +85,19 @@ std::string Describe(const DeckToken& token) {
     return "nothing";
 }
 
+std::string Capitals(std::string_view word) {
+    std::string capitals(word);
+    std::ranges::transform(capitals, capitals.begin(), [](char c) {
+        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    });
+    return capitals;
+}
+
 void DeckLexer::MoveTo(std::uint64_t offset, std::uint64_t line) {
     file_.MoveTo(offset, line);
     isAtHeadOfLine_ = false;
     plainTextBegins_ = 0;
+    openQuotesEnd_[0] = openQuotesEnd_[1] = 0;
 }
 
 DeckToken DeckLexer::Next() {
@@ -138,9 +166,27 @@ DeckToken DeckLexer::ReadWord(bool isAtHeadOfLine) {
 }
 
 DeckToken DeckLexer::ReadQuoted(bool isAtHeadOfLine) {
+    const std::size_t close = FindClosingQuote();
+    const std::string_view ahead = file_.Ahead();
+    if (close == 0) {
+        Pass(1);
+        return {Kind::OpenQuote, ahead.substr(0, 1), isAtHeadOfLine};
+    }
+    Pass(close + 1);
+    return {Kind::Quoted, ahead.substr(1, close - 1), isAtHeadOfLine};
+}
+
+// Where the quote ahead is closed, or 0. Text of quotes alone is searched once and not from each of
+// them anew: where one search ended in vain, those that begin ahead of that place do too.
+std::size_t DeckLexer::FindClosingQuote() {
     std::string_view ahead = file_.Ahead();
     const char quote = ahead[0];
-    for (std::size_t position = 1; position <= longestItem; ++position) {
+    std::uint64_t& openQuotesEnd = openQuotesEnd_[quote == '"' ? 1 : 0];
+    if (file_.Offset() < openQuotesEnd) {
+        return 0;
+    }
+    std::size_t position = 1;
+    for (; position <= longestItem; ++position) {
         if (position + 2 >= ahead.size()) {
             ahead = AtLeastAhead(position + 3);
         }
@@ -151,15 +197,14 @@ DeckToken DeckLexer::ReadQuoted(bool isAtHeadOfLine) {
             continue;
         }
         if (Separates(ahead.substr(position + 1))) {
-            Pass(position + 1);
-            return {Kind::Quoted, ahead.substr(1, position - 1), isAtHeadOfLine};
+            return position;
         }
         if (IsBlank(ahead[position - 1])) {
             break;
         }
     }
-    Pass(1);
-    return {Kind::OpenQuote, ahead.substr(0, 1), isAtHeadOfLine};
+    openQuotesEnd = file_.Offset() + position;
+    return 0;
 }
 
 void DeckLexer::SkipLine() {
@@ -196,10 +241,16 @@ void DeckLexer::SkipPlainText() {
             newline = ahead.find('\n');
         }
         const std::string_view line = ahead.substr(0, newline);
-        if (newline != std::string_view::npos && !Contains(line, '/')) {
+        const std::size_t slash = line.find('/');
+        if (newline != std::string_view::npos && slash == std::string_view::npos) {
             Pass(newline);
             PassNewline();
             continue;
+        }
+        if (slash != std::string_view::npos && slash > 0 &&
+            IsOutsideQuotes(line.substr(0, slash))) {
+            Pass(slash);
+            return;
         }
         // The middle of a very long line: without quotes and comments, the next blank is as good a
         // place to go on as any.

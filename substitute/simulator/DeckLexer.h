@@ -28,6 +28,9 @@ struct DeckToken {
 /// The token as "found" in a message.
 std::string Describe(const DeckToken& token);
 
+/// The word in capitals, as keywords are.
+std::string Capitals(std::string_view word);
+
 /// Takes the text of one file of a deck apart.
 ///
 ///     BIC -- comment        Word at the head of a line, LineEnd
@@ -62,20 +65,24 @@ public:
     void SkipCommentLines();
 
     /// Passes what can't matter in a record that nobody wants, at the speed of a search: lines, or
-    /// the rest of one, without a slash. Stops at the head of a line that begins with a letter. May
+    /// the rest of one, up to the slash. Stops at the head of a line that begins with a letter. May
     /// stop earlier than it must.
     void SkipPlainText();
 
 private:
     DeckToken ReadWord(bool isAtHeadOfLine);
     DeckToken ReadQuoted(bool isAtHeadOfLine);
+    std::size_t FindClosingQuote();
     std::string_view AtLeastAhead(std::size_t count);
     void Pass(std::size_t count) noexcept;
     void PassNewline() noexcept;
 
     DeckFile file_;
     bool isAtHeadOfLine_ = true;
-    std::uint64_t plainTextBegins_ = 0; // not ahead of this offset, as was found out before
+    // What was found out before: ahead of this offset there is no plain text, and no single or
+    // double quote closes.
+    std::uint64_t plainTextBegins_ = 0;
+    std::uint64_t openQuotesEnd_[2] = {0, 0};
 };
 
 } // namespace Orv::Kes::KesModel

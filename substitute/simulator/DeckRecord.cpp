@@ -42,13 +42,6 @@ bool IsName(const DeckToken& item) {
     return !item.text.empty() && (item.kind == Kind::Quoted || isBareName);
 }
 
-std::string Capitals(std::string text) {
-    std::ranges::transform(text, text.begin(), [](char c) {
-        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-    });
-    return text;
-}
-
 DeckLexer Open(const KeywordPlace& place) {
     try {
         return DeckLexer(place.line.file);
@@ -70,7 +63,7 @@ std::size_t DeckRecord::ReadNumbers(const ItemCount& count, const TakeNumber& ta
          item = NextItem(count.meaning)) {
         RepeatedNumber repeated;
         if (item.kind != Kind::Word || !ParseRepeated(item.text, repeated)) {
-            Fail("a number", Describe(item));
+            Fail(index < count.least ? "a number" : "a number or '/'", Describe(item));
         }
         if (repeated.count > count.most - index) {
             Fail(count.meaning, Describe(item) + " behind " + std::to_string(index) + " of them");
@@ -89,7 +82,11 @@ std::uint64_t DeckRecord::ReadCount() {
     const std::string expected = "one whole number";
     std::optional<std::uint64_t> number;
     for (DeckToken item = NextItem(expected); item.kind != Kind::Slash; item = NextItem(expected)) {
-        if (number || item.kind != Kind::Word || !(number = ParseCount(item.text))) {
+        if (number) {
+            Fail(expected, Describe(item) + " behind it");
+        }
+        number = item.kind == Kind::Word ? ParseCount(item.text) : std::nullopt;
+        if (!number) {
             Fail(expected, Describe(item));
         }
     }
@@ -113,7 +110,8 @@ std::vector<std::string> DeckRecord::ReadNames(const ItemCount& count) {
         names.emplace_back(item.text);
     }
     if (names.size() < count.least) {
-        Fail(count.meaning, "'/' behind " + std::to_string(names.size()) + " of them");
+        Fail(count.meaning,
+             names.empty() ? "'/'" : "'/' behind " + std::to_string(names.size()) + " of them");
     }
     return names;
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -60,7 +61,7 @@ void CheckCount(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
 }
 
 void CheckUnits(Fluid&, const KeywordPlace& place, const FluidKeyword&) {
-    DeckRecord(place).ReadWord({"METRIC", "FIELD", "LAB", "PVT-M"});
+    DeckRecord(place).ReadWord({"METRIC", "FIELD"});
 }
 
 void CheckNumber(Fluid&, const KeywordPlace& place, const FluidKeyword&) {
@@ -114,7 +115,7 @@ void ReadTriangle(const Fluid& fluid, const KeywordPlace& place, Take take) {
     int row = 1;
     int column = 0;
     DeckRecord(place).ReadNumbers(
-        {0, most, "at most " + std::to_string(most) + " numbers, one for each pair of components"},
+        {0, most, "at most one number for each pair of components (" + std::to_string(most) + ")"},
         [&](std::size_t, const double* number) {
             take(row, column, OrZero(number));
             if (++column == row) {
@@ -250,9 +251,17 @@ constexpr FluidKeyword keywords[] = {
     {"BICS", Number, fluid, CheckCoefficients, noProperty},
 };
 
+// Every word at the head of a line is looked up, and a large deck has millions of them.
 const FluidKeyword* Find(std::string_view name) {
-    const auto* const found = std::ranges::find(keywords, name, &FluidKeyword::name);
-    return found == std::end(keywords) ? nullptr : found;
+    static const auto index = [] {
+        std::unordered_map<std::string_view, const FluidKeyword*> byName;
+        for (const FluidKeyword& keyword : keywords) {
+            byName.emplace(keyword.name, &keyword);
+        }
+        return byName;
+    }();
+    const auto found = index.find(name);
+    return found == index.end() ? nullptr : found->second;
 }
 
 // The names, on which everything else depends.

@@ -19,10 +19,12 @@ void Tell(Log::Severity severity, const std::string& text) {
 }
 
 // Every keyword once, as far as the tracker remembers them.
-void TellPassedOver(KeywordTracker& tracker, std::string_view keyword, const DeckLine& line) {
+void TellPassedOver(KeywordTracker& tracker, std::string_view keyword, const std::string& file,
+                    std::uint64_t line) {
     const std::string name(keyword);
     if (tracker.addPassedOver(name)) {
-        Tell(Log::DEBUG, Describe(line) + ": keyword " + Quote(name) + " is passed over.");
+        Tell(Log::DEBUG,
+             Describe(DeckLine{file, line}) + ": keyword " + Quote(name) + " is passed over.");
     }
 }
 
@@ -43,8 +45,9 @@ void KesFluidModel::createFromKeywords(const Deck& deck, const KesGridModel*,
     DeckObserver observer;
     observer.hint = [](const std::string& text) { Tell(Log::WARNING, text); };
     if (tracker != nullptr) {
-        observer.passedOver = [&](std::string_view keyword, const DeckLine& line) {
-            TellPassedOver(*tracker, keyword, line);
+        observer.passedOver = [&](std::string_view keyword, const std::string& file,
+                                  std::uint64_t line) {
+            TellPassedOver(*tracker, keyword, file, line);
         };
     }
     try {

@@ -21,7 +21,7 @@ constexpr std::array sentences = {
     Sentence{3243, "The deck could not be interpreted as a compositional fluid."},
     Sentence{3244, "The deck's equation of state is not supported."},
     Sentence{3245, "The deck's viscosity model is not supported."},
-    Sentence{3359, "A property of a component was refused: {}"},
+    Sentence{3359, "A property of a component was refused: {}."},
     Sentence{3369, "The file '{}' can't be opened for writing."},
     Sentence{3503, "The deck's interfacial tension model is not supported."},
 };

@@ -36,6 +36,13 @@ namespace {
 
 constexpr bool deckFlag = true; // of no meaning to a fluid's keywords
 
+// Of a longer line the scan for the unit system sees the beginning alone.
+constexpr std::size_t longestScannedLine = blockSize;
+
+void Tell(Log::Severity severity, const std::string& text) {
+    Log::getCurrentLogger()->write(severity, text);
+}
+
 Log::Severity SeverityOf(pvtEnumPVOErrorSeverityLevel level) noexcept {
     switch (level) {
     case pvtEnumPVOErrorSeverityLevel::Fatal:
@@ -52,10 +59,13 @@ Log::Severity SeverityOf(pvtEnumPVOErrorSeverityLevel level) noexcept {
     return Log::ERROR;
 }
 
-// The first model by name; null where the store has none, or none under its first name.
-const IFluidModel* FirstModel(const PVOFluidModelsAdaptor& models) {
+// The first model by name; null where the store has none, none under its first name, or one of
+// another making.
+const PVOCompositionalModelAdaptor* FirstModel(const PVOFluidModelsAdaptor& models) {
     const std::set<std::string> names = models.getCompositionalModelNames();
-    return names.empty() ? nullptr : models.getCompositionalModel(*names.begin());
+    const IFluidModel* const model =
+        names.empty() ? nullptr : models.getCompositionalModel(*names.begin());
+    return dynamic_cast<const PVOCompositionalModelAdaptor*>(model);
 }
 
 bool Contains(std::string_view line, std::string_view word) noexcept {
@@ -91,23 +101,19 @@ ErrorReport PVOImporter::Import(CompositionalFluid& fluid, bool characterise,
         return report;
     }
 
-    const IFluidModel* const first = FirstModel(models);
-    if (first == nullptr) {
-        Log::getCurrentLogger()->write(Log::ERROR, fileName + ": the deck gave no fluid model.");
+    const PVOCompositionalModelAdaptor* const model = FirstModel(models);
+    if (model == nullptr) {
+        Tell(Log::ERROR, fileName + ": expected a compositional fluid in the deck, found none.");
         report.Add(Failure(MessageId::deckNotInterpreted));
         return report;
     }
-    try {
-        const auto& model = dynamic_cast<const PVOCompositionalModelAdaptor&>(*first);
-        BuildFluid(model, characterise, fluid, report);
-    } catch (const std::bad_cast&) {
-        report.Add(Failure(MessageId::deckNotInterpreted));
-    }
+    BuildFluid(*model, characterise, fluid, report);
     return report;
 }
 
+// A deck is read more than once, which a pipe doesn't allow.
 void PVOImporter::RequireFile() const {
-    if (!OpenForReading(fileName).is_open()) {
+    if (!IsRegularFile(fileName) || !OpenForReading(fileName).is_open()) {
         throw IOFileNotFound(fileName);
     }
 }
@@ -128,7 +134,7 @@ void PVOImporter::SetLoggerSeverity() const {
 //
 // The words count wherever they stand in a line, also in a comment. Without either, it is field.
 pvtEnumPVOUnitSystemType PVOImporter::DetectUnitSystem() const {
-    LineReader lines(fileName);
+    LineReader lines(fileName, longestScannedLine, LineReader::BehindCut::NextLine);
     std::string previous;
     std::string_view line;
     while (lines.Next(line)) {
@@ -146,6 +152,8 @@ pvtEnumPVOUnitSystemType PVOImporter::DetectUnitSystem() const {
         }
         previous = line;
     }
+    Tell(Log::WARNING, fileName + ": neither a FILEUNIT record nor a unit comment ahead of TCRIT "
+                                  "tells the units, so they are taken as field units.");
     return pvtEnumPVOUnitSystemType::Field;
 }
 

@@ -40,7 +40,7 @@ public:
 private:
     friend class ImporterProbe; // of the tests
 
-    // The unit system, from the text of the deck.
+    // The unit system, from the text of the deck. The logger is told where the text says nothing.
     Common::pvtEnumPVOUnitSystemType DetectUnitSystem() const;
     bool UnitSystemFromComment(Common::pvtEnumPVOUnitSystemType& result,
                                const std::string& line) const;
