@@ -1,0 +1,12 @@
+// One point of a line of a plot.
+#pragma once
+
+namespace Orv::FluidBench::Common {
+
+/// In the units of the plot's axes.
+struct Point {
+    double x = 0.0;
+    double y = 0.0;
+};
+
+} // namespace Orv::FluidBench::Common
