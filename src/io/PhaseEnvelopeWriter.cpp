@@ -1,0 +1,173 @@
+#include "PhaseEnvelopeWriter.h"
+
+#include "NumberText.h"
+#include "PhaseEnvelopeFormat.h"
+#include "TextFile.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <string>
+
+namespace Orv::FluidBench::Impl::IO {
+
+using Common::CommonPlottingObject;
+using Common::Line;
+using Common::Point;
+using AxisType = CommonPlottingObject::AxisType;
+
+namespace {
+
+struct AxisText {
+    std::string_view unit;
+    std::string_view letter;
+};
+
+// By the number of the axis type.
+constexpr AxisText axisTexts[] = {
+    {"T(K)", "T"},
+    {"P(Pa)", "P"},
+    {"Viscosity(Pa.s)", "Viscosity"},
+    {"Density(Kg/m3)", "Density"},
+    {"X(fraction)", "X"},
+    {"H(J/mol)", "H"},
+    {"V(m3/mol)", "V"},
+};
+
+// Both texts of an unknown axis are empty.
+AxisText TextOf(AxisType axis) {
+    const auto index = static_cast<std::uint32_t>(axis);
+    return index < std::size(axisTexts) ? axisTexts[index] : AxisText();
+}
+
+// Cells and lines on their way to the file, in large blocks.
+class Cells {
+public:
+    Cells(std::ostream& out, char separator) : out_(out), separator_(separator) {}
+    Cells(const Cells&) = delete;
+    Cells& operator=(const Cells&) = delete;
+    ~Cells() { Flush(); }
+
+    void Add(std::string_view text) { (block_ += text) += separator_; }
+    void Add(double number) {
+        AppendNumber(block_, number, NumberFormat());
+        block_ += separator_;
+    }
+    void EndLine(std::string_view text = {}) {
+        (block_ += text) += '\n';
+        if (block_.size() >= blockSize) {
+            Flush();
+        }
+    }
+
+private:
+    void Flush() {
+        out_.write(block_.data(), static_cast<std::streamsize>(block_.size()));
+        block_.clear();
+    }
+
+    std::ostream& out_;
+    char separator_;
+    std::string block_;
+};
+
+// A pair of columns: its two heading cells and its points.
+struct Pair {
+    std::string_view heading;
+    std::string headingNumber;
+    std::vector<Point> points;
+};
+
+bool HasOnePair(const LineKind& kind) {
+    return kind.pairs == Pairs::One || kind.pairs == Pairs::OneIfThere;
+}
+
+int NumberOfLines(const CommonPlottingObject& plot, const LineKind& kind) {
+    const int lines = plot.NumberOfLines(lineType, kind.phase);
+    return HasOnePair(kind) ? std::min(lines, 1) : lines;
+}
+
+std::vector<Pair> CollectPairs(const CommonPlottingObject& plot) {
+    std::vector<Pair> pairs;
+    std::uint64_t count = 0; // of numbered lines
+    for (const LineKind& kind : lineKinds) {
+        const int lines = NumberOfLines(plot, kind);
+        for (int i = 0; i < lines; ++i) {
+            const Line& line = plot.GetLine(lineType, kind.phase, i);
+            Pair& pair = pairs.emplace_back(Pair{kind.heading, {}, line.GetPoints()});
+            if (kind.pairs == Pairs::EachWithFraction) {
+                AppendNumber(pair.headingNumber, line.GetPhaseFraction(), NumberFormat());
+            } else if (kind.pairs == Pairs::EachWithNumber) {
+                AppendNumber(pair.headingNumber, ++count);
+            }
+        }
+        if (lines == 0 && kind.pairs == Pairs::One) {
+            pairs.push_back({kind.heading, {}, {}});
+        }
+    }
+    return pairs;
+}
+
+void WriteHeader(Cells& cells, const AxisText& x, const AxisText& y) {
+    cells.EndLine("Flash: ");
+    cells.EndLine("Source: ");
+    cells.EndLine("Units: " + std::string(x.unit) + ", " + std::string(y.unit));
+    cells.EndLine();
+}
+
+void WriteColumnHeadings(Cells& cells, const std::vector<Pair>& pairs, const AxisText& x,
+                         const AxisText& y) {
+    for (const Pair& pair : pairs) {
+        cells.Add(pair.heading);
+        cells.Add(pair.headingNumber);
+    }
+    cells.EndLine();
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        cells.Add(x.letter);
+        cells.Add(y.letter);
+    }
+    cells.EndLine();
+}
+
+void WriteRow(Cells& cells, const std::vector<Pair>& pairs, std::size_t row) {
+    for (const Pair& pair : pairs) {
+        if (row < pair.points.size()) {
+            cells.Add(pair.points[row].x);
+            cells.Add(pair.points[row].y);
+        } else {
+            cells.Add(" ");
+            cells.Add(" ");
+        }
+    }
+    cells.EndLine();
+}
+
+void WritePlot(Cells& cells, const CommonPlottingObject& plot) {
+    const AxisText x = TextOf(plot.GetXAxisType());
+    const AxisText y = TextOf(plot.GetYAxisType());
+    const std::vector<Pair> pairs = CollectPairs(plot);
+    std::size_t rows = 0;
+    for (const Pair& pair : pairs) {
+        rows = std::max(rows, pair.points.size());
+    }
+
+    WriteHeader(cells, x, y);
+    WriteColumnHeadings(cells, pairs, x, y);
+    for (std::size_t row = 0; row < rows; ++row) {
+        WriteRow(cells, pairs, row);
+    }
+    cells.EndLine();
+}
+
+} // namespace
+
+void WritePhaseEnvelopes(std::ostream& out, const std::vector<CommonPlottingObject>& plots,
+                         char separator) {
+    Cells cells(out, separator);
+    for (const CommonPlottingObject& plot : plots) {
+        WritePlot(cells, plot);
+    }
+}
+
+} // namespace Orv::FluidBench::Impl::IO
