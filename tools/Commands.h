@@ -21,6 +21,7 @@ public:
 void AddBlackOilCommands(CLI::App& program);
 void AddDeckCommands(CLI::App& program);
 void AddDfaCommands(CLI::App& program);
+void AddEnvelopeCommands(CLI::App& program);
 void AddMflCommands(CLI::App& program);
 
 } // namespace FluidBenchTool

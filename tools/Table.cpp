@@ -32,14 +32,25 @@ std::string Line(const std::vector<std::string>& cells, const std::vector<std::s
     return line;
 }
 
+std::string Text(double value, std::chars_format notation, int precision) {
+    std::array<char, 512> text; // the largest number has 309 digits ahead of its point
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), value, notation, precision).ptr;
+    return {text.data(), end};
+}
+
 } // namespace
 
 std::string NumberText(double value, int significantDigits) {
-    std::array<char, 64> text;
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), value,
-                                   std::chars_format::general, significantDigits)
-                         .ptr;
-    return {text.data(), end};
+    return Text(value, std::chars_format::general, significantDigits);
+}
+
+std::string FixedText(double value, int decimals) {
+    return Text(value, std::chars_format::fixed, decimals);
+}
+
+std::string WithMinusSign(const std::string& number) {
+    return number.starts_with('-') ? "\u2212" + number.substr(1) : number;
 }
 
 Table::Table(std::vector<std::string> headings) {

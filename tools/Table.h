@@ -12,6 +12,13 @@ namespace FluidBenchTool {
 /// The number with that many significant digits, as printf's %.*g writes it, in any locale.
 std::string NumberText(double value, int significantDigits = 6);
 
+/// The number with that many decimals, as printf's %.*f writes it, in any locale. Meant for numbers
+/// of up to 15 digits.
+std::string FixedText(double value, int decimals);
+
+/// The number's text with the sign of typesetters in place of a leading hyphen.
+std::string WithMinusSign(const std::string& number);
+
 /// Rows of text in aligned columns: the first column to the left, the others to the right.
 class Table {
 public:

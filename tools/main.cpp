@@ -25,6 +25,7 @@ int main(int argumentCount, char** arguments) {
     FluidBenchTool::AddDeckCommands(program);
     FluidBenchTool::AddBlackOilCommands(program);
     FluidBenchTool::AddDfaCommands(program);
+    FluidBenchTool::AddEnvelopeCommands(program);
     FluidBenchTool::AddMflCommands(program);
     try {
         program.parse(argumentCount, arguments);
