@@ -34,34 +34,37 @@ const std::map<std::string, const EnvelopeUnits*> unitChoices{{"metric", &metric
                                                               {"field", &fieldEnvelopeUnits}};
 const std::map<std::string, bool> separatorIsComma{{"comma", true}, {"tab", false}};
 
+bool HasUnknownHeading(std::string_view line) {
+    const auto holds = [line](std::string_view word) {
+        return line.find(word) != std::string_view::npos;
+    };
+    return holds("Bubble") && (holds("PX2") || holds("PX3") || holds("TX2") || holds("TX3"));
+}
+
 // What the library's reader passes over in silence, and a person had better know.
 void WarnOfWhatIsNotRead(const std::string& fileName) {
-    constexpr std::string_view unitsOfReader = "Units: T(K), P(Pa)";
+    constexpr std::size_t longestLine = 499;
     bool hasOtherUnits = false;
     bool hasOtherLines = false;
+    bool hasLongLine = false;
     std::ifstream file(fileName);
-    for (std::string line; std::getline(file, line);) {
-        hasOtherUnits =
-            hasOtherUnits || (line.starts_with("Units: ") && !line.starts_with(unitsOfReader));
-        hasOtherLines =
-            hasOtherLines ||
-            (line.find("Bubble") != std::string::npos &&
-             std::ranges::any_of(
-                 std::to_array<std::string_view>({"PX2", "PX3", "TX2", "TX3"}),
-                 [&line](std::string_view name) { return line.find(name) != std::string::npos; }));
+    for (std::string line; !hasLongLine && std::getline(file, line);) {
+        const std::string_view text(line.data(), line.size() - (line.ends_with('\r') ? 1 : 0));
+        hasOtherUnits |= text.starts_with("Units: ") && text != "Units: T(K), P(Pa)";
+        hasOtherLines |= HasUnknownHeading(text);
+        hasLongLine = text.size() > longestLine;
     }
-    if (hasOtherUnits) {
-        std::cerr
-            << "warning: '" << fileName
-            << "' states units other than T(K), P(Pa). Its first column of each pair is taken "
-               "for temperatures in K all the same, the second for pressures in Pa.\n";
-    }
-    if (hasOtherLines) {
-        std::cerr
-            << "warning: '" << fileName
-            << "' has PX or TX lines, which can't be read. The digits of their headings count "
-               "as vapour fractions, and from there on numbers are in the wrong lines.\n";
-    }
+    const auto warn = [&fileName](bool isSo, const char* text) {
+        if (isSo) {
+            std::cerr << "warning: '" << fileName << "' " << text << '\n';
+        }
+    };
+    warn(hasOtherUnits,
+         "states units other than T(K), P(Pa). The first column of each pair is "
+         "taken for temperatures in K all the same, the second for pressures in Pa.");
+    warn(hasOtherLines, "has PX or TX lines, which can't be read. The digits of their headings "
+                        "count as vapour fractions, and from there on numbers are in wrong lines.");
+    warn(hasLongLine, "has a line of more than 499 characters. What follows these isn't read.");
 }
 
 std::string FailureText(const std::string& fileName, const std::string& message,
@@ -71,8 +74,10 @@ std::string FailureText(const std::string& fileName, const std::string& message,
                "' is no phase envelope file: the second character of its sixth line, such as "
                "\"T,P,\", isn't a comma or a tab, or the line is shorter than 4 characters.";
     }
-    return "'" + fileName + "': " + message +
-           ". Envelopes read ahead of that: " + std::to_string(numberOfPlots) + '.';
+    const std::string before = numberOfPlots == 0
+                                   ? std::string()
+                                   : " Plots ahead of that: " + std::to_string(numberOfPlots) + '.';
+    return "'" + fileName + "': " + message + '.' + before;
 }
 
 Plots ReadPlots(const std::string& fileName) {
