@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 
 #include <cstdlib>
+#include <sstream>
 
 using namespace FluidBenchTest;
 
@@ -44,6 +45,9 @@ TEST_F(ToolTest, EndsWithTheStatusOfWhatHappened) {
     folder.Write("bad.dat", "CNAMES\nC1 C2 /\nMW\n16 /\n");
     folder.Write("good.dat", "CNAMES\nC1 C2 /\n--Units: K\nTCRIT\n100 200 /\n");
     folder.Write("unknown.dat", "CNAMES\nC1 /\nSWFN\n1 2 3 /\n");
+    folder.Write("short.csv", "Flash\n\n\n\nBubble\nT,P,\n1");
+    folder.Write("no-end.csv", "Flash\n\n\n\nBubble,1\nT,P,\n");
+    folder.Write("other.csv", "Flash\n\nUnits: X(fraction), P(Pa)\n\nBubble,PX2,1,\nX,P,\n");
     struct Case {
         const char* arguments;
         int status;
@@ -79,6 +83,18 @@ TEST_F(ToolTest, EndsWithTheStatusOfWhatHappened) {
         {"dfa show missing.txt", 1, "", "missing.txt"},
         {"mfl show @six-component-oil.mfl", 0, "C1", ""},
         {"mfl show missing.mfl", 1, "", "missing.mfl"},
+        {"envelope show @rich-gas-envelope.csv", 0, "Vapour fraction        0.95      88", ""},
+        {"envelope show @rich-gas-envelope.csv --units field", 0, "72.9608             2969.53",
+         ""},
+        {"envelope show missing.csv", 1, "", "Could not open file"},
+        {"envelope show bad.dat", 1, "", "no phase envelope file"},
+        {"envelope show short.csv", 0, "", "Error in column 0"},
+        {"envelope show no-end.csv", 1, "", "A number in a heading line has no separator"},
+        {"envelope show other.csv", 0, "", "PX or TX lines, which can't be read"},
+        {"envelope show other.csv", 0, "", "states units other than T(K), P(Pa)"},
+        {"envelope convert @rich-gas-envelope.csv out.txt", 2, "", "--separator"},
+        {"envelope convert @rich-gas-envelope.csv none/out.txt --separator tab", 1, "", "none/out"},
+        {"envelope plot @rich-gas-envelope.csv none/out.svg", 1, "", "none/out.svg"},
     };
     for (const Case& c : cases) {
         const Outcome run = Tool(c.arguments);
@@ -108,4 +124,41 @@ TEST_F(ToolTest, ConvertsADeckThereAndBack) {
         0);
     EXPECT_EQ(ReadFile(folder / "again.dat"), ReadFile(folder / "zeros.dat"));
     EXPECT_TRUE(Contains(ReadFile(folder / "field.dat"), "RTEMP\n--\n160\n"));
+}
+
+TEST_F(ToolTest, RewritesAPhaseEnvelopeWithTheOtherSeparator) {
+    const std::string sample = "@separator-train-envelopes.txt";
+    ASSERT_EQ(Tool("envelope convert " + sample + " comma.csv --separator comma").status, 0);
+    ASSERT_EQ(Tool("envelope convert comma.csv again.txt --separator tab").status, 0);
+    EXPECT_EQ(ReadFile(folder / "again.txt"),
+              ReadFile(FLUIDBENCH_EXAMPLE_DATA "/separator-train-envelopes.txt"));
+}
+
+TEST_F(ToolTest, DrawsAPictureOfEachPlotWithinItsFrame) {
+    const std::string block = "Flash\n\n\n\nBubble,,Dew,,Critical point,,\nT,P,T,P,T,P,\n";
+    std::string rows = "200,1e5,1e999,1,300,2e7,\n,,1e300,-1e999,,,\n";
+    for (int i = 0; i < 50'000; ++i) {
+        rows += std::to_string(200 + i * 2e-3) + ',' + std::to_string(1e5 + i * 4e2) + ",,,,,\n";
+    }
+    folder.Write("a&b\x01\xFF<.csv", block + rows + "\n" + block);
+    ASSERT_EQ(Tool("envelope plot a* picture.v1.svg").output, "picture.v1.svg\npicture.v1-2.svg\n");
+    const std::string first = ReadFile(folder / "picture.v1.svg");
+    EXPECT_TRUE(Contains(first, ">a&amp;b\uFFFD\uFFFD&lt;.csv, plot 1 of 2</text>"));
+    EXPECT_TRUE(Contains(first, ">\u221260</text>")) << "a tick at -60 degrees C";
+    EXPECT_TRUE(Contains(first, ">26.85 \u00B0C, 200 bar</text>")) << "the critical point";
+    EXPECT_LT(first.size(), 50'000U) << "only what can be seen is drawn";
+    EXPECT_TRUE(Contains(ReadFile(folder / "picture.v1-2.svg"), ">No points</text>"));
+
+    std::size_t places = 0;
+    for (std::size_t at = first.find(" points=\""); at != std::string::npos;
+         at = first.find(" points=\"", at + 1)) {
+        const std::size_t begin = at + std::string(" points=\"").size();
+        std::istringstream points(first.substr(begin, first.find('"', begin) - begin));
+        char comma = ' ';
+        for (double x = 0.0, y = 0.0; points >> x >> comma >> y; ++places) {
+            EXPECT_TRUE(x >= 88 && x <= 712 && y >= 76 && y <= 526) << x << ' ' << y;
+        }
+        EXPECT_TRUE(points.eof()) << "no other text among the places";
+    }
+    EXPECT_GT(places, 500U);
 }

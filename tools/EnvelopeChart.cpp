@@ -70,7 +70,7 @@ Curve ToCurve(const EnvelopeLine& line, const Stroke& stroke) {
 // Where a critical point is; other lines need no second line.
 std::string PlaceText(const EnvelopeLine& line, const EnvelopeUnits& units) {
     constexpr int digits = 4;
-    if (line.phase != Phase::CriticalPoint) {
+    if (line.phase != Phase::CriticalPoint || line.points.size() != 1) {
         return {};
     }
     const Point& point = line.points.front();
