@@ -22,8 +22,8 @@ namespace Orv::FluidBench::IO {
 ///
 ///     Bubble,,Dew,,Critical point,,Vapour,0.5,
 ///     T,P,T,P,T,P,T,P,
-///     300,2.1e+06,300,1.5e+06,450,8e+06,300,1.8e+06,
-///     310,2.6e+06,310,1.9e+06, , ,310,2.2e+06,
+///     285,1.02e+07,426,236000,521.9,1.12e+07,285,892000,
+///     300,1.08e+07,440,298000, , ,300,1.02e+06,
 ///
 /// The separator is a comma or a tab. Reading is tolerant of what stands around the columns; a line
 /// of the file may be 499 characters long. docs/formats/phase-envelope.md has the whole of it.

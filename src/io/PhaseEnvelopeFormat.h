@@ -6,8 +6,8 @@
 //
 //     Bubble,,Dew,,Critical point,,Vapour,0.5,            the heading line
 //     T,P,T,P,T,P,T,P,                                    the letter line
-//     300,2.1e+06,300,1.5e+06,450,8e+06,300,1.8e+06,      rows
-//     310,2.6e+06,310,1.9e+06, , ,310,2.2e+06,
+//     285,1.02e+07,426,236000,521.9,1.12e+07,285,892000,  rows
+//     300,1.08e+07,440,298000, , ,300,1.02e+06,
 //                                                         ends the block
 //
 // Each line of the plot has a pair of columns, and each cell a separator behind it.
