@@ -1,8 +1,7 @@
 // Writes the K-values and the thermal data of an oil for a simulator, in both unit systems.
 //
-//     ExportKValues examples/data/six-component-k-values.csv
-//     examples/data/six-component-thermal.csv
-//                   FOLDER
+//     cd examples/data
+//     ExportKValues six-component-k-values.csv six-component-thermal.csv FOLDER
 //
 // fills a K-value table and a thermal table from the two data files and writes
 // FOLDER/k-values-metric.txt, FOLDER/k-values-field.txt, FOLDER/thermal-metric.txt and

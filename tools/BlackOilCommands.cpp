@@ -1,4 +1,5 @@
 // fluidbench-io blackoil: shows black-oil CSV files and converts them.
+#include "Choices.h"
 #include "Commands.h"
 #include "FluidBench/Common/Units.h"
 #include "FluidBench/Model/BlackOilTable.h"
@@ -44,6 +45,7 @@ const std::map<std::string, Writer::EXPORT_TYPE> tableChoices{
 // The number that a text begins with, behind any blanks; 0.0 without one.
 double LeadingNumber(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
+    text.remove_prefix(text.starts_with('+') ? 1 : 0);
     double value = 0.0;
     std::from_chars(text.data(), text.data() + text.size(), value);
     return value;
@@ -165,63 +167,56 @@ void Convert(const Conversion& conversion) {
     TellReport(Writer(conversion.highPrecision)
                    .ExportToFile(table, conversion.output, conversion.units, conversion.tables,
                                  conversion.form));
+    RequireWholeFile(conversion.output, conversion.units == Units::METRIC ? "FILEUNIT\nMETRIC\n/\n"
+                                                                          : "FILEUNIT\nFIELD\n/\n");
 }
-
-// The columns of a table, in the units shown.
-struct Columns {
-    const char* name;
-    std::vector<std::string> headings;
-    double (*pressure)(double);
-    double (*ratio)(double);
-    double (*volumeFactor)(double);
-};
 
 double AsItIs(double value) {
     return value;
 }
 
-Columns OilColumns(bool field) {
-    return field
-               ? Columns{"Oil",
-                         {"record", "GOR Mscf/stb", "pressure psia", "FVF rb/stb", "viscosity cP"},
-                         Units::Pressure_Pa_To_psi,
-                         Units::VolumeRatio_m3m3_to_mscfbbl,
-                         Units::VolumeRatio_m3m3_to_bblbbl}
-               : Columns{"Oil",
-                         {"record", "GOR m3/m3", "pressure bar", "FVF m3/m3", "viscosity cP"},
-                         Units::Pressure_Pa_To_bar,
-                         AsItIs,
-                         AsItIs};
-}
+// A column of a table: its heading, and the way from the model's unit to the one shown.
+struct Column {
+    const char* heading;
+    double (*convert)(double);
+};
 
-Columns GasColumns(bool field) {
-    return field
-               ? Columns{"Gas",
-                         {"record", "OGR stb/Mscf", "pressure psia", "FVF rb/Mscf", "viscosity cP"},
-                         Units::Pressure_Pa_To_psi,
-                         Units::VolumeRatio_m3m3_to_bblmscf,
-                         Units::VolumeRatio_m3m3_to_bblmscf}
-               : Columns{"Gas",
-                         {"record", "OGR m3/m3", "pressure bar", "FVF m3/m3", "viscosity cP"},
-                         Units::Pressure_Pa_To_bar,
-                         AsItIs,
-                         AsItIs};
-}
+struct Columns {
+    Column ratio;
+    Column pressure;
+    Column volumeFactor;
+};
 
-void PrintRecords(const BlackOilDataRecords& records, const Columns& columns) {
-    std::cout << '\n' << columns.name << '\n';
+// clang-format off
+constexpr Columns metricOil{{"GOR m3/m3",    AsItIs},
+                            {"pressure bar", Units::Pressure_Pa_To_bar},
+                            {"FVF m3/m3",    AsItIs}};
+constexpr Columns metricGas{{"OGR m3/m3",    AsItIs},
+                            {"pressure bar", Units::Pressure_Pa_To_bar},
+                            {"FVF m3/m3",    AsItIs}};
+constexpr Columns fieldOil{{"GOR Mscf/stb",  Units::VolumeRatio_m3m3_to_mscfbbl},
+                           {"pressure psia", Units::Pressure_Pa_To_psi},
+                           {"FVF rb/stb",    Units::VolumeRatio_m3m3_to_bblbbl}};
+constexpr Columns fieldGas{{"OGR stb/Mscf",  Units::VolumeRatio_m3m3_to_bblmscf},
+                           {"pressure psia", Units::Pressure_Pa_To_psi},
+                           {"FVF rb/Mscf",   Units::VolumeRatio_m3m3_to_bblmscf}};
+// clang-format on
+
+void PrintRecords(const char* title, const BlackOilDataRecords& records, const Columns& columns) {
+    std::cout << '\n' << title << '\n';
     if (records.GetTableSize() == 0) {
         std::cout << "  No rows.\n";
         return;
     }
-    Table table(columns.headings);
+    Table table({"record", columns.ratio.heading, columns.pressure.heading,
+                 columns.volumeFactor.heading, "viscosity cP"});
     ForEachRow(records, [&](std::uint64_t record, std::uint64_t entry) {
-        table.AddRow(
-            {entry == 0 ? std::to_string(record + 1) : std::string(),
-             NumberText(columns.ratio(records.GetProperty(record, entry))),
-             NumberText(columns.pressure(records.GetPressure(record, entry))),
-             NumberText(columns.volumeFactor(records.GetFormationVolumeFactor(record, entry))),
-             NumberText(Units::Viscosity_Pas_To_cp(records.GetViscosity(record, entry)))});
+        table.AddRow({entry == 0 ? std::to_string(record + 1) : std::string(),
+                      NumberText(columns.ratio.convert(records.GetProperty(record, entry))),
+                      NumberText(columns.pressure.convert(records.GetPressure(record, entry))),
+                      NumberText(columns.volumeFactor.convert(
+                          records.GetFormationVolumeFactor(record, entry))),
+                      NumberText(Units::Viscosity_Pas_To_cp(records.GetViscosity(record, entry)))});
     });
     table.Print(std::cout, 2);
 }
@@ -230,7 +225,8 @@ void Show(const std::string& fileName, Units::UNIT_TYPE units) {
     const BlackOilTable table = ReadTable(fileName);
     const bool field = units == Units::FIELD;
     const auto density = field ? Units::Density_kgm3_To_lbft3 : AsItIs;
-    const Columns oil = OilColumns(field);
+    const Columns& oil = field ? fieldOil : metricOil;
+    const Columns& gas = field ? fieldGas : metricGas;
     Table summary({"quantity", "value", "unit"});
     const auto add = [&](const char* name, double value, const char* metric,
                          const char* fieldUnit) {
@@ -239,22 +235,12 @@ void Show(const std::string& fileName, Units::UNIT_TYPE units) {
     add("oil density", density(table.GetOilDensity()), "kg/m3", "lb/ft3");
     add("water density", density(table.GetWaterDensity()), "kg/m3", "lb/ft3");
     add("gas density", density(table.GetGasDensity()), "kg/m3", "lb/ft3");
-    add("GOR at saturation", oil.ratio(table.GetSaturationPointRs()), "m3/m3", "Mscf/stb");
-    add("saturation pressure", oil.pressure(table.GetSaturationPointPressure()), "bar", "psia");
+    add("GOR at saturation", oil.ratio.convert(table.GetSaturationPointRs()), "m3/m3", "Mscf/stb");
+    add("saturation pressure", oil.pressure.convert(table.GetSaturationPointPressure()), "bar",
+        "psia");
     summary.Print(std::cout);
-    PrintRecords(table.GetLiveOilData(), oil);
-    PrintRecords(table.GetWetGasData(), GasColumns(field));
-}
-
-// An option whose value is one of the words of `choices`.
-template <typename Value>
-void AddChoice(CLI::App& command, const std::string& name, Value& value,
-               const std::map<std::string, Value>& choices, const std::string& description) {
-    command
-        .add_option_function<std::string>(
-            name, [&value, &choices](const std::string& word) { value = choices.at(word); },
-            description)
-        ->check(CLI::IsMember(choices));
+    PrintRecords("Oil", table.GetLiveOilData(), oil);
+    PrintRecords("Gas", table.GetWetGasData(), gas);
 }
 
 void AddConvert(CLI::App& blackoil) {
@@ -265,14 +251,15 @@ void AddConvert(CLI::App& blackoil) {
     convert
         ->add_option("OUT", conversion->output, "The file to write; one that is there is replaced")
         ->required();
-    AddChoice(*convert, "--form", conversion->form, forms, "keyword, unless given");
-    AddChoice(*convert, "--units", conversion->units, unitChoices,
-              "metric, unless given. The numbers of the csv form are metric always");
+    AddChoice(*convert, "--form", conversion->form, forms,
+              "Form to write: keyword, unless given, for a simulator, or csv");
     AddChoice(
-        *convert, "--tables", conversion->tables, tableChoices,
-        "live-wet, unless given, writes PVTO and PVTG; live-dry writes PVTO and PVDG; dead-wet "
-        "PVDO and PVTG; dead-dry PVDO and PVDG. All rows of the file go into these tables, "
-        "whichever it was written from");
+        *convert, "--units", conversion->units, unitChoices,
+        "Units to write: metric, unless given. The numbers of the csv form are metric always");
+    AddChoice(*convert, "--tables", conversion->tables, tableChoices,
+              "Tables to write: live-wet, unless given, writes PVTO and PVTG; live-dry PVTO and "
+              "PVDG; dead-wet PVDO and PVTG; dead-dry PVDO and PVDG. All rows of the file go into "
+              "these tables, whichever it was written from");
     convert->add_flag("--high-precision", conversion->highPrecision, "15 decimals in place of 8");
     convert->callback([conversion] { Convert(*conversion); });
 }
@@ -283,7 +270,7 @@ void AddShow(CLI::App& blackoil) {
     const auto fileName = std::make_shared<std::string>();
     const auto units = std::make_shared<Units::UNIT_TYPE>(Units::METRIC);
     show->add_option("IN", *fileName, "The CSV file")->required();
-    AddChoice(*show, "--units", *units, unitChoices, "metric, unless given");
+    AddChoice(*show, "--units", *units, unitChoices, "Units to show: metric, unless given");
     show->callback([fileName, units] { Show(*fileName, *units); });
 }
 

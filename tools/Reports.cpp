@@ -2,6 +2,8 @@
 
 #include "Commands.h"
 
+#include <filesystem>
+#include <fstream>
 #include <iostream>
 
 namespace FluidBenchTool {
@@ -31,6 +33,20 @@ void TellReport(const ErrorReport& report) {
     }
     if (report.HasErrors()) {
         throw CommandFailed();
+    }
+}
+
+void RequireWholeFile(const std::string& fileName, std::string_view ending) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(fileName, error)) {
+        return;
+    }
+    std::ifstream file(fileName, std::ios_base::binary);
+    std::string found(ending.size(), '\0');
+    file.seekg(-static_cast<std::streamoff>(ending.size()), std::ios_base::end);
+    file.read(found.data(), static_cast<std::streamsize>(found.size()));
+    if (found != ending) {
+        throw CommandFailed("'" + fileName + "' couldn't be written whole. Is the disk full?");
     }
 }
 
