@@ -6,7 +6,6 @@
 #include "io/Export.h"
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace Orv::FluidBench::IO {
@@ -89,17 +88,17 @@ public:
     Experiments::ObservedExperiment GetDFAExperiment() const;
 
 private:
-    bool ImportData(const std::string& fileName, Data& data);
-    bool CacheFileContent(const std::string& fileName, std::vector<std::string>& lines) const;
+    bool ImportData(std::string fileName, Data& data);
+    bool CacheFileContent(std::string fileName, std::vector<std::string>& lines) const;
     bool ExtractData(std::vector<std::string>& lines, std::vector<std::string>& dataLines) const;
-    void ConvertDataToDoubles(const std::vector<std::string>& dataLines, Data& data) const;
-    std::vector<std::string_view> ExtractSubStrings(std::string_view text,
-                                                    std::string_view delimiter) const;
+    void ConvertDataToDoubles(std::vector<std::string>& dataLines, Data& data);
+    std::vector<std::string> ExtractSubStrings(const std::string& text,
+                                               std::string delimiter) const;
     bool ExtractDataOfInterest();
 
     std::vector<int> SortStations(std::vector<double> depths) const;
     std::vector<int> SortStations() const;
-    void SortStations(std::vector<WellData>& records) const;
+    void SortStations(std::vector<WellData>& records);
     double FilterOutNegativeValues(double value) const;
 
     Data mainData;

@@ -8,9 +8,7 @@
 #include "TextFile.h"
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
-#include <limits>
 #include <numeric>
 #include <stdexcept>
 #include <utility>
@@ -35,7 +33,8 @@ namespace {
 constexpr std::size_t lengthOfFileKind = 7; // "DFA.txt", as a rule
 constexpr const char* pressureFileKind = "FT.txt";
 
-constexpr std::size_t piecesOfRow = 5;
+constexpr std::size_t quotesOfRow = 4;
+constexpr std::size_t piecesOfRow = quotesOfRow + 1;
 constexpr std::size_t wellPiece = 1;
 constexpr std::size_t firstNumbersPiece = 2;
 constexpr std::size_t stationPiece = 3;
@@ -100,6 +99,16 @@ const T& At(const std::vector<T>& values, int index) {
         throw std::out_of_range("invalid vector<T> subscript");
     }
     return values[static_cast<std::size_t>(index)];
+}
+
+bool HasQuotesOfRow(std::string_view line) {
+    std::size_t quotes = 0;
+    for (std::size_t quote = line.find('"');
+         quote != std::string_view::npos && quotes <= quotesOfRow;
+         quote = line.find('"', quote + 1)) {
+        ++quotes;
+    }
+    return quotes == quotesOfRow;
 }
 
 std::string_view WithoutFirst(std::string_view text) {
@@ -175,25 +184,23 @@ void DFAReader::SetIndexOfWell(int index) {
     indexOfWell = index;
 }
 
-bool DFAReader::ImportData(const std::string& fileName, Data& data) {
+bool DFAReader::ImportData(std::string fileName, Data& data) {
     std::vector<std::string> lines;
     std::vector<std::string> dataLines;
-    if (!CacheFileContent(fileName, lines) || !ExtractData(lines, dataLines)) {
+    if (!CacheFileContent(std::move(fileName), lines) || !ExtractData(lines, dataLines)) {
         return false;
     }
     ConvertDataToDoubles(dataLines, data);
     return true;
 }
 
-bool DFAReader::CacheFileContent(const std::string& fileName,
-                                 std::vector<std::string>& lines) const {
+bool DFAReader::CacheFileContent(std::string fileName, std::vector<std::string>& lines) const {
     LineReader file(fileName);
     std::string_view line;
     while (file.Next(line)) {
         // What can be neither a row nor a mark of the header isn't kept: a large file of something
         // else would take many times its own size.
-        if (line.find('"') != std::string_view::npos ||
-            line.find("HEADER") != std::string_view::npos) {
+        if (HasQuotesOfRow(line) || line.find("HEADER") != std::string_view::npos) {
             lines.emplace_back(line);
         }
     }
@@ -222,22 +229,24 @@ bool DFAReader::ExtractData(std::vector<std::string>& lines,
     return true;
 }
 
-void DFAReader::ConvertDataToDoubles(const std::vector<std::string>& dataLines, Data& data) const {
+void DFAReader::ConvertDataToDoubles(std::vector<std::string>& dataLines, Data& data) {
     std::string numberText;
     std::vector<double> numbers;
     for (const std::string& line : dataLines) {
-        const std::vector<std::string_view> pieces = ExtractSubStrings(line, "\"");
+        std::vector<std::string> pieces = ExtractSubStrings(line, "\"");
         if (pieces.size() != piecesOfRow) {
             continue;
         }
-        data.wellNames.emplace_back(pieces[wellPiece]);
-        data.stationLabels.emplace_back(pieces[stationPiece]);
+        data.wellNames.push_back(std::move(pieces[wellPiece]));
+        data.stationLabels.push_back(std::move(pieces[stationPiece]));
 
         // The blank behind each quoted text goes; the one that parts the two texts ends the first.
         numberText = WithoutFirst(pieces[firstNumbersPiece]);
         numberText += WithoutFirst(pieces[lastNumbersPiece]);
+        // The row ends at two adjacent blanks: what may be a long line of them isn't cut up.
+        numberText.resize(std::min(numberText.find("  "), numberText.size()));
         numbers.clear();
-        for (const std::string_view part : ExtractSubStrings(numberText, " ")) {
+        for (const std::string& part : ExtractSubStrings(numberText, " ")) {
             const auto number = ExtractDecimal(part);
             if (!number) {
                 break;
@@ -248,16 +257,17 @@ void DFAReader::ConvertDataToDoubles(const std::vector<std::string>& dataLines, 
     }
 }
 
-std::vector<std::string_view> DFAReader::ExtractSubStrings(std::string_view text,
-                                                           std::string_view delimiter) const {
-    std::vector<std::string_view> pieces;
-    std::size_t end = text.find(delimiter);
-    while (end != std::string_view::npos) {
-        pieces.push_back(text.substr(0, end));
-        text.remove_prefix(end + delimiter.size());
-        end = text.find(delimiter);
+std::vector<std::string> DFAReader::ExtractSubStrings(const std::string& text,
+                                                      std::string delimiter) const {
+    std::vector<std::string> pieces;
+    pieces.reserve(1 + static_cast<std::size_t>(std::ranges::count(text, delimiter.front())));
+    std::size_t begin = 0;
+    for (std::size_t end = text.find(delimiter); end != std::string::npos;
+         end = text.find(delimiter, begin)) {
+        pieces.emplace_back(text, begin, end - begin);
+        begin = end + delimiter.size();
     }
-    pieces.push_back(text);
+    pieces.emplace_back(text, begin);
     return pieces;
 }
 
@@ -282,13 +292,6 @@ bool DFAReader::ExtractDataOfInterest() {
 }
 
 std::vector<int> DFAReader::SortStations(std::vector<double> depths) const {
-    // What isn't a number is neither above nor below anything: it stays behind the deepest station
-    // that came before it.
-    double deepest = -std::numeric_limits<double>::infinity();
-    for (double& depth : depths) {
-        deepest = std::max(deepest, depth);
-        depth = std::isnan(depth) ? deepest : depth;
-    }
     std::vector<int> order(depths.size());
     std::iota(order.begin(), order.end(), 0);
     std::ranges::stable_sort(order, std::ranges::less(), [&depths](int station) {
@@ -301,7 +304,7 @@ std::vector<int> DFAReader::SortStations() const {
     return SortStations(At(wells, indexOfWell).depths);
 }
 
-void DFAReader::SortStations(std::vector<WellData>& records) const {
+void DFAReader::SortStations(std::vector<WellData>& records) {
     for (WellData& well : records) {
         const std::vector<int> order = SortStations(well.depths);
         PutInOrder(well.pressures, order);
