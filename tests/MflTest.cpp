@@ -117,6 +117,12 @@ TEST_F(MflTest, ReportsEachBadLineAndLeavesTheFluidAlone) {
         EXPECT_NE(report.GetMessages()[0].GetText().find(each.text), std::string::npos)
             << report.GetMessages()[0].GetText();
     }
+    std::string many = head;
+    for (int i = 0; i < 5000; ++i) {
+        many += "x\n";
+    }
+    folder.Write("fluid.mfl", many);
+    EXPECT_EQ(reader.Read(fluid).GetMessages().size(), 1001U) << "and one that says so";
     for (const std::string& path :
          {folder / "missing.mfl", folder.Path().string(), std::string()}) {
         reader.SetMFLFileName(path);

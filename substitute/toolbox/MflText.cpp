@@ -19,7 +19,6 @@
 namespace Orv::FluidBench::Impl::Command {
 
 using Common::ErrorReport;
-using Common::Message;
 using Common::pvtEnumEoS;
 using Common::pvtEnumErrorCode;
 using Common::pvtEnumErrorType;
@@ -92,6 +91,9 @@ constexpr std::string_view noValue = "-";
 
 // A fluid keeps the coefficients of all pairs: a short file shouldn't be able to ask for millions.
 constexpr std::size_t mostComponents = 1000;
+// Nobody reads more messages than that, and a report of them all can take far more memory than the
+// file.
+constexpr std::size_t mostFailures = 1000;
 
 const auto* FindWord(const auto& meanings, std::string_view word) {
     using Entry = std::remove_reference_t<decltype(*std::begin(meanings))>;
@@ -181,10 +183,12 @@ private:
     template <typename Operation>
     void Try(Operation operation);
     void Fail(const std::string& what);
+    void Tell(const std::string& text);
 
     const std::string& fileName_;
     MflContent& content_;
     ErrorReport report_;
+    std::size_t failures_ = 0;
     State state_ = State::Form;
     std::size_t line_ = 0;
     bool isOver_ = false;
@@ -210,8 +214,7 @@ ErrorReport Reader::Read() {
         file.open(fileName_);
     }
     if (!file.is_open()) {
-        report_.Add({pvtEnumErrorType::General, pvtEnumErrorCode::Error, 1001,
-                     std::vector<std::string>{"The file '" + fileName_ + "' can't be opened"}});
+        Tell("The file '" + fileName_ + "' can't be opened");
         return std::move(report_);
     }
     std::string line;
@@ -457,8 +460,21 @@ void Reader::Try(Operation operation) {
 }
 
 void Reader::Fail(const std::string& what) {
-    report_.Add({pvtEnumErrorType::General, pvtEnumErrorCode::Error, 1001,
-                 std::vector<std::string>{fileName_ + ":" + std::to_string(line_) + ": " + what}});
+    if (failures_ == mostFailures) {
+        return;
+    }
+    ++failures_;
+    const std::string place = fileName_ + ":" + std::to_string(line_) + ": ";
+    Tell(place + what);
+    if (failures_ == mostFailures) {
+        Tell(place + "too many errors; the rest of the file wasn't read");
+        isOver_ = true;
+    }
+}
+
+void Reader::Tell(const std::string& text) {
+    report_.Add(
+        {pvtEnumErrorType::General, pvtEnumErrorCode::Error, 1001, std::vector<std::string>{text}});
 }
 
 } // namespace

@@ -36,8 +36,9 @@ namespace Orv::FluidBench::Impl::Command {
 ///     END
 ///
 /// The page on the format, docs/formats/mfl.md, tells its rules. Each bad line gives one message or
-/// more, number 1001, with file and line. When the report has errors, what the caller passed in to
-/// be filled is as it was; otherwise it is replaced as a whole.
+/// more, number 1001, with file and line; the thousandth ends the reading. When the report has
+/// errors, what the caller passed in to be filled is as it was; otherwise it is replaced as a
+/// whole.
 class FLUIDBENCH_BOUNDARY_API ImportCommand : public BaseCommand {
 public:
     ImportCommand();
