@@ -33,7 +33,16 @@ std::string UsageMessage(const CLI::App* program, const CLI::Error& error) {
     return message + "Run '" + line + " --help' for more information.\n";
 }
 
-int Run(CLI::App& program, int argumentCount, char** arguments) {
+int Run(int argumentCount, char** arguments) {
+    CLI::App program("Looks into the files of reservoir fluids and converts them.",
+                     "fluidbench-io");
+    program.require_subcommand(1);
+    FluidBenchTool::AddDeckCommands(program);
+    FluidBenchTool::AddBlackOilCommands(program);
+    FluidBenchTool::AddDfaCommands(program);
+    FluidBenchTool::AddEnvelopeCommands(program);
+    FluidBenchTool::AddMflCommands(program);
+    program.failure_message(UsageMessage);
     try {
         program.parse(argumentCount, arguments);
     } catch (const CLI::ParseError& error) {
@@ -50,16 +59,7 @@ int Run(CLI::App& program, int argumentCount, char** arguments) {
 } // namespace
 
 int main(int argumentCount, char** arguments) {
-    CLI::App program("Looks into the files of reservoir fluids and converts them.",
-                     "fluidbench-io");
-    program.require_subcommand(1);
-    FluidBenchTool::AddDeckCommands(program);
-    FluidBenchTool::AddBlackOilCommands(program);
-    FluidBenchTool::AddDfaCommands(program);
-    FluidBenchTool::AddEnvelopeCommands(program);
-    FluidBenchTool::AddMflCommands(program);
-    program.failure_message(UsageMessage);
-    const int status = Run(program, argumentCount, arguments);
+    const int status = Run(argumentCount, arguments);
     if (!std::cout.flush()) {
         std::cerr << "fluidbench-io: The standard output can't be written.\n";
         return failure;

@@ -23,9 +23,10 @@ struct Place {
     std::size_t index;
 };
 
-bool IsBefore(const Place& first, const Place& second) {
+// An object, so that sorting doesn't call it through a pointer.
+constexpr auto isBefore = [](const Place& first, const Place& second) {
     return first.well != second.well ? first.well < second.well : first.depth < second.depth;
-}
+};
 
 class WellNumbers {
 public:
@@ -51,8 +52,8 @@ std::vector<Place> InOrder(const std::vector<WellDepth>& depths, WellNumbers& nu
         places.push_back({numbers.Of(depths[i].well), depths[i].depth, i});
     }
     // Files are mostly in order already.
-    if (!std::ranges::is_sorted(places, IsBefore)) {
-        std::ranges::sort(places, IsBefore);
+    if (!std::ranges::is_sorted(places, isBefore)) {
+        std::ranges::sort(places, isBefore);
     }
     return places;
 }
@@ -73,7 +74,7 @@ std::vector<std::size_t> LastMatches(const std::vector<WellDepth>& stations,
     std::size_t next = 0;  // of the readings
     for (const Place& station : InOrder(stations, numbers)) {
         while (next < places.size() &&
-               (!IsBefore(station, places[next]) || areEqual(station, places[next]))) {
+               (!isBefore(station, places[next]) || areEqual(station, places[next]))) {
             while (queue.size() > front && queue.back().index < places[next].index) {
                 queue.pop_back();
             }
