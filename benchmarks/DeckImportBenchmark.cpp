@@ -2,6 +2,7 @@
 // its interaction coefficients, against std::getline with std::from_chars; and a deck of 256 MiB
 // whose data hardly anybody wants, against std::getline alone. The memory that the large deck takes
 // is measured in a process of its own.
+#include "Baselines.h"
 #include "Ratios.h"
 #include "io/PVOFileReader.h"
 #include "io/PVOFileWriter.h"
@@ -12,7 +13,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <charconv>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -118,20 +118,7 @@ void ReadFluid(benchmark::State& state) {
 void FromChars(benchmark::State& state) {
     const std::string& file = FluidDeck();
     for (auto _ : state) {
-        std::ifstream stream(file);
-        std::string line;
-        double sum = 0.0;
-        while (std::getline(stream, line)) {
-            const char* position = line.data();
-            const char* const end = position + line.size();
-            while (position < end) {
-                double value = 0.0;
-                const auto [behind, error] = std::from_chars(position, end, value);
-                sum += value;
-                position = error == std::errc() ? behind : position + 1;
-            }
-        }
-        benchmark::DoNotOptimize(sum);
+        benchmark::DoNotOptimize(FluidBenchBenchmark::SumOfNumbers(file));
     }
 }
 

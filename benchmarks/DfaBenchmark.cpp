@@ -1,5 +1,6 @@
 // Importing the exports of a downhole fluid analysis job: how the time grows with the number of
 // stations, and how it compares with merely reading the numbers of both files.
+#include "Baselines.h"
 #include "Ratios.h"
 #include "io/DFAReader.h"
 
@@ -73,22 +74,9 @@ void ReadNumbers(benchmark::State& state) {
     const std::string file = MainFile(fullSize, taken);
     const std::string stem = file.substr(0, file.size() - 7);
     for (auto _ : state) {
-        double sum = 0.0;
         for (const std::string& name : {file, stem + "FT.txt"}) {
-            std::ifstream stream(name);
-            std::string line;
-            while (std::getline(stream, line)) {
-                const char* position = line.data();
-                const char* const end = position + line.size();
-                while (position < end) {
-                    double value = 0.0;
-                    const auto [behind, error] = std::from_chars(position, end, value);
-                    sum += value;
-                    position = error == std::errc() ? behind : position + 1;
-                }
-            }
+            benchmark::DoNotOptimize(FluidBenchBenchmark::SumOfNumbers(name));
         }
-        benchmark::DoNotOptimize(sum);
     }
 }
 

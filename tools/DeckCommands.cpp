@@ -108,15 +108,16 @@ struct Conversion {
 void Convert(const Conversion& conversion) {
     constexpr double standardTemperature = 288.706; // K, 60 degrees F
     const ReadDeck deck = Read(conversion.input);
-    if (conversion.temperature.empty()) {
-        std::cerr << "note: A fluid doesn't keep its reservoir temperature. The deck is written "
-                     "with 60 degrees F; --temperature gives another.\n";
-    }
     const double temperature =
         ParseTemperature(conversion.temperature).value_or(standardTemperature);
     TellReport(PVOFileWriter().ExportToPVO(deck.fluid, conversion.output, temperature,
                                            conversion.units == UnitSystem::Metric,
                                            conversion.writesRunspec));
+    RequireWholeFile(conversion.output, "/\n--\n");
+    if (conversion.temperature.empty()) {
+        std::cerr << "note: A fluid doesn't keep its reservoir temperature. The deck is written "
+                     "with 60 degrees F; --temperature gives another.\n";
+    }
 }
 
 void AddReading(CLI::App& command, Reading& reading, const std::string& argument) {

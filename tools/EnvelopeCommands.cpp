@@ -3,6 +3,7 @@
 #include "Commands.h"
 #include "EnvelopeChart.h"
 #include "EnvelopeLines.h"
+#include "Reports.h"
 #include "Table.h"
 #include "io/PhaseEnvelopeReaderWriter.h"
 
@@ -137,6 +138,7 @@ void Convert(const std::string& input, const std::string& output, bool useComma)
     if (!file.Write(plots)) {
         throw CommandFailed("'" + output + "' can't be opened for writing.");
     }
+    RequireWholeFile(output, plots.empty() ? "" : "\n\n");
 }
 
 // OUT.svg, OUT-2.svg, OUT-3.svg and so on.

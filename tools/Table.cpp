@@ -58,6 +58,10 @@ Table::Table(std::vector<std::string> headings) {
 }
 
 void Table::AddRow(std::vector<std::string> cells) {
+    for (std::string& cell : cells) {
+        std::ranges::replace_if(
+            cell, [](unsigned char c) { return c < ' ' || c == 0x7F; }, '?');
+    }
     rows_.push_back(std::move(cells));
 }
 

@@ -24,7 +24,8 @@ class Table {
 public:
     explicit Table(std::vector<std::string> headings);
 
-    /// A row may be shorter than the headings; the rest of it stays empty.
+    /// A row may be shorter than the headings; the rest of it stays empty. Characters that a
+    /// terminal would obey are shown as question marks.
     void AddRow(std::vector<std::string> cells);
 
     /// Writes the headings and the rows, each line indented by `indent` blanks.
