@@ -1,5 +1,7 @@
 #include "TextFile.h"
 
+#include "Messages.h"
+
 #include <algorithm>
 #include <cstring>
 #include <filesystem>
@@ -15,6 +17,15 @@ std::ofstream OpenForWriting(const std::string& fileName, std::span<char> buffer
         file.rdbuf()->pubsetbuf(buffer.data(), static_cast<std::streamsize>(buffer.size()));
     }
     file.open(fileName, std::ios_base::out | std::ios_base::trunc);
+    return file;
+}
+
+std::ofstream OpenOrReport(const std::string& fileName, Common::ErrorReport& report,
+                           std::span<char> buffer) {
+    std::ofstream file = OpenForWriting(fileName, buffer);
+    if (!file.is_open()) {
+        report.Add(CantOpenForWriting(fileName));
+    }
     return file;
 }
 

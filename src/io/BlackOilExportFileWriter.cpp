@@ -13,7 +13,6 @@
 
 #include "BlackOilFormatters.h"
 #include "DeckText.h"
-#include "Messages.h"
 #include "NumberText.h"
 #include "TextFile.h"
 
@@ -32,9 +31,8 @@ using Experiments::ExperimentResults;
 using Experiments::Stage;
 using Impl::IO::AppendNumber;
 using Impl::IO::blockSize;
-using Impl::IO::CantOpenForWriting;
 using Impl::IO::NumberFormat;
-using Impl::IO::OpenForWriting;
+using Impl::IO::OpenOrReport;
 using Model::BlackOilDataRecords;
 using Model::BlackOilTable;
 using Model::CompositionalFluid;
@@ -115,9 +113,8 @@ ErrorReport BlackOilExportFileWriter::ExportToFile(const BlackOilTable& table,
                                                    FILE_TYPE fileType) const {
     ErrorReport report;
     std::vector<char> buffer(blockSize);
-    std::ofstream out = OpenForWriting(fileName, buffer);
+    std::ofstream out = OpenOrReport(fileName, report, buffer);
     if (!out.is_open()) {
-        report.Add(CantOpenForWriting(fileName));
         return report;
     }
     out << std::fixed;
@@ -160,9 +157,8 @@ ErrorReport BlackOilExportFileWriter::ExportXMFYMFVP(const CompositionalFluid& f
                                                      const std::string& fileName,
                                                      Units::UNIT_TYPE units) const {
     ErrorReport report;
-    std::ofstream out = OpenForWriting(fileName);
+    std::ofstream out = OpenOrReport(fileName, report);
     if (!out.is_open()) {
-        report.Add(CantOpenForWriting(fileName));
         return report;
     }
     const NumberFormat format{std::chars_format::fixed,

@@ -36,10 +36,9 @@ using Experiments::MSTExperiment;
 using Experiments::oilLikeFluidState;
 using Experiments::Stage;
 using Impl::IO::AppendNumber;
-using Impl::IO::CantOpenForWriting;
 using Impl::IO::FreeText;
 using Impl::IO::NumberFormat;
-using Impl::IO::OpenForWriting;
+using Impl::IO::OpenOrReport;
 using Model::CompositionalFluid;
 using Utilities::Equations;
 
@@ -172,9 +171,8 @@ ErrorReport PVOFileWriter::ExportZMFVD(const CompositionalFluid& fluid,
                                        const ExperimentResults& results,
                                        const std::string& fileName, Units::UNIT_TYPE units) const {
     ErrorReport report;
-    std::ofstream out = OpenForWriting(fileName);
+    std::ofstream out = OpenOrReport(fileName, report);
     if (!out.is_open()) {
-        report.Add(CantOpenForWriting(fileName));
         return report;
     }
     std::vector<Stage> stages = results.Stages;
@@ -195,9 +193,8 @@ ErrorReport PVOFileWriter::ExportZMFVD(const CompositionalFluid& fluid,
 ErrorReport PVOFileWriter::ExportPSATVD(const ExperimentResults& results,
                                         const std::string& fileName, Units::UNIT_TYPE units) const {
     ErrorReport report;
-    std::ofstream out = OpenForWriting(fileName);
+    std::ofstream out = OpenOrReport(fileName, report);
     if (!out.is_open()) {
-        report.Add(CantOpenForWriting(fileName));
         return report;
     }
     if (results.Stages.empty()) {
@@ -233,9 +230,8 @@ ErrorReport PVOFileWriter::ExportRSVD(const ExperimentResults& results, MSTExper
                                       const std::vector<Stage>& separatorStages,
                                       const std::string& fileName, Units::UNIT_TYPE units) const {
     ErrorReport report;
-    std::ofstream out = OpenForWriting(fileName);
+    std::ofstream out = OpenOrReport(fileName, report);
     if (!out.is_open()) {
-        report.Add(CantOpenForWriting(fileName));
         return report;
     }
     if (results.Stages.empty()) {

@@ -32,9 +32,8 @@ namespace Orv::FluidBench::IO {
 
 using Common::ErrorReport;
 using Common::Units;
-using Impl::IO::CantOpenForWriting;
 using Impl::IO::CsvUnsupported;
-using Impl::IO::OpenForWriting;
+using Impl::IO::OpenOrReport;
 using Model::KValuesTable;
 
 namespace {
@@ -51,9 +50,8 @@ ErrorReport KValuesExportFileWriter::ExportToFile(const KValuesTable& table,
                                                   const std::string& fileName,
                                                   Units::UNIT_TYPE unitType) const {
     ErrorReport report;
-    std::ofstream out = OpenForWriting(fileName);
+    std::ofstream out = OpenOrReport(fileName, report);
     if (!out.is_open()) {
-        report.Add(CantOpenForWriting(fileName));
         return report;
     }
     if (fileType != PVO) {

@@ -16,7 +16,6 @@
 #include "ComponentSections.h"
 #include "DeckText.h"
 #include "FluidBench/Common/Units.h"
-#include "Messages.h"
 #include "NumberText.h"
 #include "TextFile.h"
 
@@ -28,8 +27,7 @@ using Common::ErrorReport;
 using Common::pvtEnumEoS;
 using Common::Units;
 using Impl::IO::AppendNumber;
-using Impl::IO::CantOpenForWriting;
-using Impl::IO::OpenForWriting;
+using Impl::IO::OpenOrReport;
 using Model::CompositionalFluid;
 
 namespace {
@@ -90,9 +88,8 @@ ErrorReport PVOFileWriter::ExportToPVO(const CompositionalFluid& fluid, const st
     ErrorReport report;
     const Components components = fluid.GetOrderedComponents();
     const std::size_t n = components.size();
-    std::ofstream deck = OpenForWriting(fileName);
+    std::ofstream deck = OpenOrReport(fileName, report);
     if (!deck.is_open()) {
-        report.Add(CantOpenForWriting(fileName));
         return report;
     }
     WriteRunspecSection(deck, writeRunspec, metric, n);

@@ -18,9 +18,8 @@ namespace Orv::FluidBench::IO {
 
 using Common::ErrorReport;
 using Common::Units;
-using Impl::IO::CantOpenForWriting;
 using Impl::IO::CsvUnsupported;
-using Impl::IO::OpenForWriting;
+using Impl::IO::OpenOrReport;
 using Model::ThermalExportTable;
 
 namespace {
@@ -146,9 +145,8 @@ ErrorReport ThermalExportFileWriter::ExportToFile(const ThermalExportTable& tabl
         RequireOneValuePerComponent(table);
     }
     ErrorReport report;
-    std::ofstream out = OpenForWriting(fileName);
+    std::ofstream out = OpenOrReport(fileName, report);
     if (!out.is_open()) {
-        report.Add(CantOpenForWriting(fileName));
         return report;
     }
     if (fileType != PVO) {

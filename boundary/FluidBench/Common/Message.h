@@ -21,7 +21,8 @@ public:
     /// belongs to the I/O library, which instantiates it for `const char*` and `std::string` and
     /// doesn't export it.
     template <typename Value>
-    Message(pvtEnumErrorType type, pvtEnumErrorCode code, std::int32_t id, Value value);
+    FLUIDBENCH_BOUNDARY_LOCAL Message(pvtEnumErrorType type, pvtEnumErrorCode code, std::int32_t id,
+                                      Value value);
 
     ~Message();
     Message(const Message&);
