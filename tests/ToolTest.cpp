@@ -136,7 +136,7 @@ TEST_F(ToolTest, RewritesAPhaseEnvelopeWithTheOtherSeparator) {
 
 TEST_F(ToolTest, DrawsAPictureOfEachPlotWithinItsFrame) {
     const std::string block = "Flash\n\n\n\nBubble,,Dew,,Critical point,,\nT,P,T,P,T,P,\n";
-    std::string rows = "200,1e5,1e999,1,300,2e7,\n,,1e300,-1e999,,,\n";
+    std::string rows = "200,1e5,1e999,1,300,2e7,\n,,1e300,-1e999,,,\n,,250,1e6,,,\n,,250,1e6,,,\n";
     for (int i = 0; i < 50'000; ++i) {
         rows += std::to_string(200 + i * 2e-3) + ',' + std::to_string(1e5 + i * 4e2) + ",,,,,\n";
     }
@@ -146,6 +146,7 @@ TEST_F(ToolTest, DrawsAPictureOfEachPlotWithinItsFrame) {
     EXPECT_TRUE(Contains(first, ">a&amp;b\uFFFD\uFFFD&lt;.csv, plot 1 of 2</text>"));
     EXPECT_TRUE(Contains(first, ">\u221260</text>")) << "a tick at -60 degrees C";
     EXPECT_TRUE(Contains(first, ">26.85 \u00B0C, 200 bar</text>")) << "the critical point";
+    EXPECT_TRUE(Contains(first, "r=\"3.5\" fill=\"#c8461e\"")) << "a dew line of one place";
     EXPECT_LT(first.size(), 50'000U) << "only what can be seen is drawn";
     EXPECT_TRUE(Contains(ReadFile(folder / "picture.v1-2.svg"), ">No points</text>"));
 

@@ -27,7 +27,7 @@ constexpr int yIntervals = 6;
 constexpr double tickLength = 6.0;
 constexpr double minorTickLength = 3.0;
 constexpr double markerRadius = 5.5;
-constexpr double dotRadius = 3.5; // of a curve that is a point alone
+constexpr double dotRadius = 3.5; // of a curve that is a point alone to the eye
 
 const Stroke frameStroke{"#444444", 1.2};
 const Stroke gridStroke{"#e4e4e4", 1.0};
@@ -116,13 +116,15 @@ bool CanBeToldApart(const Place& first, const Place& second) {
     return std::hypot(first.x - second.x, first.y - second.y) >= smallestDistance;
 }
 
-// The points that make a difference to the eye: of a million, a few thousand at most.
+// The points that make a difference to the eye: of a million, a few thousand at most, and one alone
+// of a curve that never leaves its first.
 std::vector<Place> VisiblePlaces(std::vector<Place>::const_iterator begin,
                                  std::vector<Place>::const_iterator end, const Axes& axes) {
     std::vector<Place> places;
     for (auto point = begin; point != end; ++point) {
         const Place place = axes.On(*point);
-        if (places.empty() || point + 1 == end || CanBeToldApart(places.back(), place)) {
+        const bool isEndOfCurve = point + 1 == end && places.size() > 1;
+        if (places.empty() || isEndOfCurve || CanBeToldApart(places.back(), place)) {
             places.push_back(place);
         }
     }
