@@ -10,8 +10,8 @@
 #include "PVOImporter.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <iterator>
 #include <set>
 #include <string_view>
 #include <vector>
@@ -141,46 +141,51 @@ std::vector<double> Fractions(const PVOCompositionalModelAdaptor& model) {
     return fractions;
 }
 
-void SetEquationOfState(const PVOCompositionalModelAdaptor& model, CompositionalFluid& fluid,
-                        ErrorReport& report) {
-    const bool shifted = AnyComponentHas(model, IComponent::VOLUME_SHIFT);
+// The toolbox's names of the models, from the interpreter's codes. Each throws for a code that a
+// fluid can't have.
+
+pvtEnumEoS EquationOfStateOf(const PVOCompositionalModelAdaptor& model) {
+    const auto* const known =
+        std::ranges::find(equationsOfState, model.getEquationOfState(), &EquationOfState::code);
+    if (known == std::end(equationsOfState)) {
+        throw IOUnsupportedEoS();
+    }
+    return AnyComponentHas(model, IComponent::VOLUME_SHIFT) ? known->shifted : known->plain;
+}
+
+pvtEnumViscosityMethod ViscosityMethodOf(const PVOCompositionalModelAdaptor& model) {
+    switch (model.getViscosityModel()) {
+    case lohrenzBrayClarkCode:
+        return pvtEnumViscosityMethod::LohrenzBrayClark;
+    case pedersenCode:
+        return pvtEnumViscosityMethod::Pedersen;
+    default:
+        throw IOUnsupportedViscosityModel();
+    }
+}
+
+pvtEnumInterfacialTensionMethod
+InterfacialTensionMethodOf(const PVOCompositionalModelAdaptor& model) {
+    if (model.getInterfacialTensionModel() != parachorCode) {
+        throw IOUnsupportedViscosityModel();
+    }
+    return pvtEnumInterfacialTensionMethod::Parachor;
+}
+
+void SetModels(const PVOCompositionalModelAdaptor& model, CompositionalFluid& fluid,
+               ErrorReport& report) {
     try {
-        const int code = model.getEquationOfState();
-        const auto* const known = std::ranges::find(equationsOfState, code, &EquationOfState::code);
-        if (known == std::end(equationsOfState)) {
-            throw IOUnsupportedEoS();
-        }
-        fluid.SetEoS(shifted ? known->shifted : known->plain);
+        fluid.SetEoS(EquationOfStateOf(model));
     } catch (const IOUnsupportedEoS&) {
         report.Add(Failure(MessageId::unsupportedEoS));
     }
-}
-
-void SetViscosityModel(const PVOCompositionalModelAdaptor& model, CompositionalFluid& fluid,
-                       ErrorReport& report) {
     try {
-        switch (model.getViscosityModel()) {
-        case lohrenzBrayClarkCode:
-            fluid.SetViscosityCorrelation(pvtEnumViscosityMethod::LohrenzBrayClark);
-            break;
-        case pedersenCode:
-            fluid.SetViscosityCorrelation(pvtEnumViscosityMethod::Pedersen);
-            break;
-        default:
-            throw IOUnsupportedViscosityModel();
-        }
+        fluid.SetViscosityCorrelation(ViscosityMethodOf(model));
     } catch (const IOUnsupportedViscosityModel&) {
         report.Add(Failure(MessageId::unsupportedViscosityModel));
     }
-}
-
-void SetInterfacialTensionModel(const PVOCompositionalModelAdaptor& model,
-                                CompositionalFluid& fluid, ErrorReport& report) {
     try {
-        if (model.getInterfacialTensionModel() != parachorCode) {
-            throw IOUnsupportedViscosityModel();
-        }
-        fluid.SetInterfacialTensionMethod(pvtEnumInterfacialTensionMethod::Parachor);
+        fluid.SetInterfacialTensionMethod(InterfacialTensionMethodOf(model));
     } catch (const IOUnsupportedViscosityModel&) {
         report.Add(Failure(MessageId::unsupportedInterfacialTensionModel));
     }
@@ -213,9 +218,7 @@ void PVOImporter::BuildFluid(const PVOCompositionalModelAdaptor& model, bool cha
         return;
     }
     const std::vector<double> fractions = Fractions(model);
-    SetEquationOfState(model, fluid, report);
-    SetViscosityModel(model, fluid, report);
-    SetInterfacialTensionModel(model, fluid, report);
+    SetModels(model, fluid, report);
     SetComponents(model, fractions, fluid, report);
     SetCoefficients(model, fluid);
     if (characterise) {
