@@ -14,12 +14,14 @@ namespace Orv::FluidBench::Impl::IO {
 
 /// The operations of a fluid model that don't depend on its kind, for a `ModelInterface` derived
 /// from `IFluidModel`. Owns one object of each sort; a getter makes the one that isn't there yet,
-/// also of a constant model.
+/// also of a constant model. Not copyable: a copy would share those objects.
 template <typename ModelInterface>
 class PVOFluidModelAdaptor : public ModelInterface {
 public:
     PVOFluidModelAdaptor(const std::string& modelName, Common::Units::UNIT_TYPE units)
         : unitSystem(units), name(modelName) {}
+    PVOFluidModelAdaptor(const PVOFluidModelAdaptor&) = delete;
+    PVOFluidModelAdaptor& operator=(const PVOFluidModelAdaptor&) = delete;
     ~PVOFluidModelAdaptor() override = default;
 
     std::string getName() const override { return name; }
