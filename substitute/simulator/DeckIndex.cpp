@@ -1,11 +1,12 @@
 #include "DeckIndex.h"
 
+#include "DeckCharacters.h"
 #include "DeckLexer.h"
 #include "DeckNumber.h"
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
+#include <iterator>
 #include <memory>
 #include <stdexcept>
 #include <system_error>
@@ -25,16 +26,6 @@ constexpr Section sections[] = {
     {"RUNSPEC", true},  {"GRID", false},    {"PROPS", true},     {"REGIONS", false},
     {"SOLUTION", true}, {"SUMMARY", false}, {"SCHEDULE", false},
 };
-
-constexpr bool IsLetter(char c) noexcept {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-constexpr bool IsSmallLetter(char c) noexcept {
-    return c >= 'a' && c <= 'z';
-}
-constexpr bool IsDigit(char c) noexcept {
-    return c >= '0' && c <= '9';
-}
 
 bool LooksLikeKeyword(const DeckToken& token) {
     return token.kind == Kind::Word && IsLetter(token.text[0]) &&
@@ -109,6 +100,7 @@ private:
     void ReadSection(DeckLexer& deck, const Section& section);
     void ReadInclude(DeckLexer& deck);
     void ReadWanted(DeckLexer& deck, const std::string& keyword, KeywordData data);
+    bool IsMeantAsKeyword(DeckLexer& deck, KeywordData data, DeckToken& next) const;
     void ReadUnwanted(DeckLexer& deck, const std::string& keyword);
     void ReadFreeText(DeckLexer& deck);
 
@@ -259,28 +251,7 @@ void IndexBuilder::ReadSection(DeckLexer& deck, const Section& section) {
 void IndexBuilder::ReadWanted(DeckLexer& deck, const std::string& keyword, KeywordData data) {
     KeywordPlace place{keyword, {deck.File().Name(), deck.File().Line()}, deck.File().Offset()};
     DeckToken next = deck.Next();
-    bool isKeyword = EndsLine(next) || next.kind == Kind::Slash;
-    if (!isKeyword) {
-        switch (data) {
-        case KeywordData::None:
-            isKeyword = context_ == Context::WantedKeyword;
-            break;
-        case KeywordData::Numbers:
-            isKeyword = IsMeantAsNumber(next) || context_ == Context::WantedKeyword;
-            break;
-        case KeywordData::Word: {
-            const bool isQuoted = next.kind == Kind::Quoted;
-            next = deck.Next();
-            isKeyword = isQuoted || EndsLine(next) || next.kind == Kind::Slash ||
-                        context_ == Context::WantedKeyword;
-            break;
-        }
-        case KeywordData::Names:
-            isKeyword = true;
-            break;
-        }
-    }
-    if (!isKeyword) {
+    if (!IsMeantAsKeyword(deck, data, next)) {
         Hint(deck, place.line.line,
              keyword + " isn't taken for the keyword because of the text behind it");
         if (!EndsLine(next)) {
@@ -295,6 +266,33 @@ void IndexBuilder::ReadWanted(DeckLexer& deck, const std::string& keyword, Keywo
     }
     context_ = Context::WantedKeyword;
     Remember(deck, std::move(place));
+}
+
+// Whether the text behind a wanted keyword suits it, or its place leaves no doubt. `next` is the
+// token behind the keyword, and afterwards the last one that was looked at.
+bool IndexBuilder::IsMeantAsKeyword(DeckLexer& deck, KeywordData data, DeckToken& next) const {
+    const auto endsRecord = [&next] { return EndsLine(next) || next.kind == Kind::Slash; };
+    if (endsRecord()) {
+        return true;
+    }
+    bool suits = false;
+    switch (data) {
+    case KeywordData::None:
+        break;
+    case KeywordData::Numbers:
+        suits = IsMeantAsNumber(next);
+        break;
+    case KeywordData::Word: {
+        const bool isQuoted = next.kind == Kind::Quoted;
+        next = deck.Next();
+        suits = isQuoted || endsRecord();
+        break;
+    }
+    case KeywordData::Names:
+        suits = true;
+        break;
+    }
+    return suits || context_ == Context::WantedKeyword;
 }
 
 void IndexBuilder::ReadUnwanted(DeckLexer& deck, const std::string& keyword) {

@@ -1,5 +1,6 @@
 #include "DeckLexer.h"
 
+#include "DeckCharacters.h"
 #include "DeckError.h"
 
 #include <algorithm>
@@ -18,9 +19,6 @@ constexpr bool IsBlank(char c) noexcept {
 }
 constexpr bool IsQuote(char c) noexcept {
     return c == '\'' || c == '"';
-}
-constexpr bool IsLetter(char c) noexcept {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
 // What may end a word: the last two need a look at the character behind them.
@@ -88,7 +86,7 @@ std::string Describe(const DeckToken& token) {
 std::string Capitals(std::string_view word) {
     std::string capitals(word);
     std::ranges::transform(capitals, capitals.begin(), [](char c) {
-        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+        return IsSmallLetter(c) ? static_cast<char>(c - 'a' + 'A') : c;
     });
     return capitals;
 }

@@ -1,5 +1,7 @@
 #include "DeckNumber.h"
 
+#include "DeckCharacters.h"
+
 #include <algorithm>
 #include <charconv>
 #include <string>
@@ -14,10 +16,6 @@ bool ParseWhole(std::string_view text, Number& number) noexcept {
     const char* const end = text.data() + text.size();
     const auto [behind, error] = std::from_chars(text.data(), end, number);
     return error == std::errc() && behind == end;
-}
-
-constexpr bool IsDigit(char c) noexcept {
-    return c >= '0' && c <= '9';
 }
 
 // Programs of a certain age write the exponent of a double-precision number with a D.

@@ -3,8 +3,8 @@
 #include "DeckNumber.h"
 
 #include <algorithm>
+#include <optional>
 #include <stdexcept>
-#include <utility>
 
 namespace Orv::Kes::KesModel {
 

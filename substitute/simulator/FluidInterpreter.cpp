@@ -21,11 +21,20 @@ namespace {
 constexpr const char* modelName = "Fluid";
 constexpr const char* regionName = "1";
 
+// The codes of `ICompositionalModel`.
+constexpr int pengRobinson = 0;
+constexpr int correctedPengRobinson = 1;
+constexpr int redlichKwong = 2;
+constexpr int soaveRedlichKwong = 3;
+constexpr int zudkevitchJoffe = 4;
+constexpr int lohrenzBrayClark = 0;
+constexpr int pedersen = 1;
+
 // The model while it is filled. What two keywords decide together waits for both of them.
 struct Fluid {
     ICompositionalModel& model;
     std::size_t n; // components
-    int equationOfState = 0;
+    int equationOfState = pengRobinson;
     bool isCorrected = false;
     bool namesPedersen = false;
     bool lacksViscosityCoefficients = false;
@@ -87,7 +96,10 @@ int ReadEquationOfStateCode(const KeywordPlace& place) {
         std::string_view word;
         int code;
     };
-    constexpr Equation equations[] = {{"PR", 0}, {"RK", 2}, {"SRK", 3}, {"ZJ", 4}};
+    constexpr Equation equations[] = {{"PR", pengRobinson},
+                                      {"RK", redlichKwong},
+                                      {"SRK", soaveRedlichKwong},
+                                      {"ZJ", zudkevitchJoffe}};
     std::vector<std::string> words;
     for (const Equation& equation : equations) {
         words.emplace_back(equation.word);
@@ -321,9 +333,10 @@ void InterpretFluid(const DeckIndex& index, IFluidModels& models) {
             keyword.handle(fluid, place, keyword);
         }
     }
-    const bool isPengRobinson = fluid.equationOfState == 0;
-    fluid.model.setEquationOfState(isPengRobinson && fluid.isCorrected ? 1 : fluid.equationOfState);
-    fluid.model.setViscosityModel(fluid.namesPedersen || fluid.lacksViscosityCoefficients ? 1 : 0);
+    const bool isCorrected = fluid.isCorrected && fluid.equationOfState == pengRobinson;
+    fluid.model.setEquationOfState(isCorrected ? correctedPengRobinson : fluid.equationOfState);
+    const bool usesPedersen = fluid.namesPedersen || fluid.lacksViscosityCoefficients;
+    fluid.model.setViscosityModel(usesPedersen ? pedersen : lohrenzBrayClark);
 }
 
 } // namespace Orv::Kes::KesModel
