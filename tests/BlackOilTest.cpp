@@ -1,3 +1,4 @@
+// Black-oil tables as keywords and as CSV, and reading CSV back.
 #include "BlackOilFormatters.h"
 #include "TestSupport.h"
 #include "io/BlackOilExportFileWriter.h"

@@ -1,3 +1,4 @@
+// Writing fluids as keyword decks: whole decks, and what decides on each section.
 #include "FluidData.h"
 #include "TestSupport.h"
 #include "io/PVOFileWriter.h"

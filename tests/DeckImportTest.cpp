@@ -4,11 +4,9 @@
 #include "PVOImporter.h"
 #include "TestSupport.h"
 #include "io/PVOFileReader.h"
-#include "io/PVOFileWriter.h"
 
-#include <cmath>
-#include <limits>
-#include <random>
+#include <filesystem>
+#include <utility>
 
 using namespace Orv::FluidBench;
 using namespace FluidBenchTest;
@@ -24,7 +22,6 @@ using Common::pvtEnumViscosityMethod;
 using Common::Units;
 using Impl::IO::PVOCompositionalModelAdaptor;
 using IO::PVOFileReader;
-using IO::PVOFileWriter;
 using Model::CompositionalFluid;
 using Model::FluidComponent;
 using Orv::Kes::KesModel::DefaultLogger;

@@ -1,3 +1,4 @@
+// Depth variation tables: whole files, where the contact goes, and which rows there are.
 #include "TestSupport.h"
 #include "io/PVOFileWriter.h"
 

@@ -1,3 +1,4 @@
+// Reading the exports of a downhole fluid analysis job, and matching stations by depth.
 #include "DepthMatch.h"
 #include "FluidBench/Utilities/Equations.h"
 #include "TestSupport.h"

@@ -1,3 +1,5 @@
+// What the library needs of the fluid model, its units and its messages, held against the
+// stand-in; and the texts of the library's own exceptions and messages.
 #include "IOException.h"
 #include "Messages.h"
 #include "TestSupport.h"

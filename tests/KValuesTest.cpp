@@ -1,3 +1,4 @@
+// K-value files, and the pieces of one on a stream of the caller.
 #include "TestSupport.h"
 #include "io/KValuesExportFileWriter.h"
 #include "io/KValuesTableFormatter.h"

@@ -1,3 +1,4 @@
+// Reading MFL fluid files through the stand-in for the toolbox's import command.
 #include "FluidBench/Impl/Command/ImportCommand.h"
 #include "TestSupport.h"
 #include "io/MFLFileReader.h"

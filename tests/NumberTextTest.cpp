@@ -1,3 +1,4 @@
+// Number text against the C++ streams and the C library, whose results it promises.
 #include "NumberText.h"
 #include "TestSupport.h"
 

@@ -1,3 +1,4 @@
+// Thermal files, and the pieces of one on a stream of the caller.
 #include "TestSupport.h"
 #include "io/ThermalExportFileWriter.h"
 #include "io/ThermalTableFormatter.h"

@@ -3,7 +3,6 @@
 #include "Commands.h"
 #include "FluidTable.h"
 #include "Reports.h"
-#include "Table.h"
 #include "io/PVOFileReader.h"
 #include "io/PVOFileWriter.h"
 

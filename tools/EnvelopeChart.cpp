@@ -3,7 +3,6 @@
 #include "Table.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstddef>
 

@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <ostream>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace FluidBenchTool {

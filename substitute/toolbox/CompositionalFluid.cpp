@@ -8,7 +8,6 @@
 #include <cmath>
 #include <limits>
 #include <stdexcept>
-#include <utility>
 
 namespace Orv::FluidBench::Impl::Command {
 

@@ -20,7 +20,6 @@ namespace Orv::FluidBench::Impl::IO {
 
 using Common::ErrorReport;
 using Common::pvtEnumEoS;
-using Common::pvtEnumErrorCode;
 using Common::pvtEnumHCForm;
 using Common::pvtEnumInterfacialTensionMethod;
 using Common::pvtEnumStandardConditions;

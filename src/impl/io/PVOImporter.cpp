@@ -28,7 +28,6 @@ using Kes::KesModel::DefaultLogger;
 using Kes::KesModel::KesFluidModel;
 using Kes::KesModel::KeywordTracker;
 using Kes::KesModel::Log;
-using Kes::SimFluid::ICompositionalModel;
 using Kes::SimFluid::IFluidModel;
 using Model::CompositionalFluid;
 
