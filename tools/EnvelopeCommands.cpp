@@ -55,7 +55,7 @@ void WarnOfWhatIsNotRead(const std::string& fileName) {
         hasOtherLines |= HasUnknownHeading(text);
         hasLongLine = text.size() > longestLine;
     }
-    const auto warn = [&fileName](bool isSo, const char* text) {
+    const auto warn = [&fileName](bool isSo, const std::string& text) {
         if (isSo) {
             std::cerr << "warning: '" << fileName << "' " << text << '\n';
         }
@@ -65,7 +65,8 @@ void WarnOfWhatIsNotRead(const std::string& fileName) {
          "taken for temperatures in K all the same, the second for pressures in Pa.");
     warn(hasOtherLines, "has PX or TX lines, which can't be read. The digits of their headings "
                         "count as vapour fractions, and from there on numbers are in wrong lines.");
-    warn(hasLongLine, "has a line of more than 499 characters. What follows these isn't read.");
+    warn(hasLongLine, "has a line of more than " + std::to_string(longestLine) +
+                          " characters. What follows these isn't read.");
 }
 
 std::string FailureText(const std::string& fileName, const std::string& message,

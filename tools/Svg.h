@@ -17,8 +17,8 @@ struct Place {
 struct Stroke {
     std::string colour;
     double width = 1.0;
-    std::string dashes =
-        {}; ///< lengths of dashes and gaps in turn, as "8 4"; empty for a whole line
+    /// Lengths of dashes and gaps in turn, as "8 4"; empty for a whole line.
+    std::string dashes = {};
 };
 
 /// How a text is set.
