@@ -2,6 +2,7 @@
 // the same cells: std::to_chars with block writes, std::getline with std::from_chars. What plain
 // stream insertion and atof take is told next to them.
 #include "Ratios.h"
+#include "Scratch.h"
 #include "io/BlackOilExportFileWriter.h"
 
 #include <benchmark/benchmark.h>
@@ -20,6 +21,7 @@
 
 namespace {
 
+using FluidBenchBenchmark::ScratchFolder;
 using Orv::FluidBench::Common::Units;
 using Orv::FluidBench::IO::BlackOilExportFileWriter;
 using Orv::FluidBench::Model::BlackOilDataRecords;
@@ -31,15 +33,6 @@ constexpr std::int64_t rowsPerRecord = 10;
 constexpr int decimals = 8;
 
 enum Form : std::int64_t { keywords, csv };
-
-const std::filesystem::path& Folder() {
-    static const std::filesystem::path folder = [] {
-        auto path = std::filesystem::temp_directory_path() / "fluidbench-black-oil-benchmark";
-        std::filesystem::create_directories(path);
-        return path;
-    }();
-    return folder;
-}
 
 // One row as the baselines have it: its cells in the units and the order of the file.
 using Cells = std::array<double, 4>;
@@ -101,7 +94,7 @@ void Export(const Sample& sample, const std::string& file, Form form) {
 
 void Write(benchmark::State& state) {
     const Sample& sample = SampleOf(state.range(0));
-    const std::string file = Folder() / "written";
+    const std::string file = ScratchFolder() / "written";
     for (auto _ : state) {
         Export(sample, file, Form(state.range(1)));
     }
@@ -114,7 +107,7 @@ void ToChars(benchmark::State& state) {
     constexpr std::size_t roomOfRow = 256;
     std::vector<char> block(std::size_t{64} * 1024);
     for (auto _ : state) {
-        std::ofstream out(Folder() / "written");
+        std::ofstream out(ScratchFolder() / "written");
         char* position = block.data();
         char* const end = block.data() + block.size();
         for (std::size_t row = 0; row < rows.size(); ++row) {
@@ -139,7 +132,7 @@ void StreamInsertion(benchmark::State& state) {
     const Form form = Form(state.range(0));
     const char separator = form == csv ? ',' : '\t';
     for (auto _ : state) {
-        std::ofstream out(Folder() / "written");
+        std::ofstream out(ScratchFolder() / "written");
         out << std::fixed << std::setprecision(decimals);
         for (std::size_t row = 0; row < rows.size(); ++row) {
             for (std::size_t cell = LacksFirstCell(row, form) ? 1 : 0; cell < 4; ++cell) {
@@ -151,7 +144,7 @@ void StreamInsertion(benchmark::State& state) {
 }
 
 std::string FileToRead(std::int64_t rows) {
-    std::string file = Folder() / ("read-" + std::to_string(rows));
+    std::string file = ScratchFolder() / ("read-" + std::to_string(rows));
     if (!std::filesystem::exists(file)) {
         Export(SampleOf(rows), file, csv);
     }
@@ -213,7 +206,7 @@ BENCHMARK(Atof)->Unit(benchmark::kMillisecond);
 } // namespace
 
 int main(int argumentCount, char** arguments) {
-    const int status = FluidBenchBenchmark::RunAndPrintRatios(
+    return FluidBenchBenchmark::RunAndPrintRatios(
         argumentCount, arguments,
         {{"writing keywords : to_chars and block writes", "Write/1000000/0", "ToChars/0", 1.5},
          {"writing CSV : to_chars and block writes", "Write/1000000/1", "ToChars/1", 1.5},
@@ -227,6 +220,4 @@ int main(int argumentCount, char** arguments) {
          {"plain insertion of CSV cells : writing CSV", "StreamInsertion/1", "Write/1000000/1",
           0.0},
          {"getline and atof : reading CSV", "Atof", "Read/1000000", 0.0}});
-    std::filesystem::remove_all(Folder());
-    return status;
 }

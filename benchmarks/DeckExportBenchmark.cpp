@@ -1,13 +1,13 @@
 // Exporting a fluid of a thousand components with all its interaction coefficients as a deck,
 // against a loop that only formats the same coefficients with std::to_chars into memory.
 #include "Ratios.h"
+#include "Scratch.h"
 #include "io/PVOFileWriter.h"
 
 #include <benchmark/benchmark.h>
 
 #include <charconv>
 #include <cstdint>
-#include <filesystem>
 #include <map>
 #include <random>
 #include <stdexcept>
@@ -16,6 +16,7 @@
 
 namespace {
 
+using FluidBenchBenchmark::ScratchFolder;
 using Orv::FluidBench::IO::PVOFileWriter;
 using Orv::FluidBench::Model::CompositionalFluid;
 using Orv::FluidBench::Model::FluidComponent;
@@ -61,7 +62,7 @@ const Sample& SampleOf(std::int64_t components) {
 }
 
 std::string File() {
-    return std::filesystem::temp_directory_path() / "fluidbench-deck-export-benchmark";
+    return ScratchFolder() / "deck";
 }
 
 void Export(benchmark::State& state) {
@@ -96,11 +97,9 @@ BENCHMARK(ToChars)->Unit(benchmark::kMillisecond);
 } // namespace
 
 int main(int argumentCount, char** arguments) {
-    const int status = FluidBenchBenchmark::RunAndPrintRatios(
+    return FluidBenchBenchmark::RunAndPrintRatios(
         argumentCount, arguments,
         {{"export of 499,500 coefficients : to_chars into memory", "Export/1000", "ToChars", 5.0},
          {"growth from 124,750 to 499,500 coefficients, 4.0 times", "Export/1000", "Export/500",
           5.0}});
-    std::filesystem::remove(File());
-    return status;
 }

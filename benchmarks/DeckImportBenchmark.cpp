@@ -4,6 +4,7 @@
 // is measured in a process of its own.
 #include "Baselines.h"
 #include "Ratios.h"
+#include "Scratch.h"
 #include "io/PVOFileReader.h"
 #include "io/PVOFileWriter.h"
 
@@ -14,7 +15,6 @@
 #include <unistd.h>
 
 #include <cstdio>
-#include <filesystem>
 #include <fstream>
 #include <random>
 #include <stdexcept>
@@ -22,21 +22,13 @@
 
 namespace {
 
+using FluidBenchBenchmark::ScratchFolder;
 using namespace Orv::FluidBench;
 
 constexpr int components = 1000;
 constexpr std::size_t mebibyte = std::size_t{1} << 20;
 constexpr std::size_t largeDeckSize = 256 * mebibyte;
 constexpr double mostPeakMemory = 64.0; // MiB
-
-const std::filesystem::path& Folder() {
-    static const std::filesystem::path folder = [] {
-        auto path = std::filesystem::temp_directory_path() / "fluidbench-deck-import-benchmark";
-        std::filesystem::create_directories(path);
-        return path;
-    }();
-    return folder;
-}
 
 Model::CompositionalFluid Fluid(int n) {
     std::mt19937_64 random(3);
@@ -65,7 +57,7 @@ Model::CompositionalFluid Fluid(int n) {
 
 const std::string& FluidDeck() {
     static const std::string deck = [] {
-        std::string file = Folder() / "fluid.dat";
+        std::string file = ScratchFolder() / "fluid.dat";
         IO::PVOFileWriter().ExportToPVO(Fluid(components), file, 350.0, true, false);
         return file;
     }();
@@ -75,7 +67,7 @@ const std::string& FluidDeck() {
 // A simulation deck: the fluid is a small part of it, and the grid nearly all.
 const std::string& LargeDeck() {
     static const std::string deck = [] {
-        std::string file = Folder() / "large.dat";
+        std::string file = ScratchFolder() / "large.dat";
         std::ofstream out(file);
         out << "RUNSPEC\nFIELD\nGRID\nPERMX\n";
         std::string lines;
@@ -173,6 +165,5 @@ int main(int argumentCount, char** arguments) {
          {"reading 256 MiB of other data : getline", "ReadLarge", "GetLine", 2.0}});
     std::printf("%-60s %6.2f MiB  (at most %.0f MiB%s)\n", "peak memory of reading 256 MiB",
                 peakMemory, mostPeakMemory, peakMemory <= mostPeakMemory ? "" : ", MISSED");
-    std::filesystem::remove_all(Folder());
     return status;
 }

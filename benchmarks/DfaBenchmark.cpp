@@ -2,12 +2,12 @@
 // stations, and how it compares with merely reading the numbers of both files.
 #include "Baselines.h"
 #include "Ratios.h"
+#include "Scratch.h"
 #include "io/DFAReader.h"
 
 #include <benchmark/benchmark.h>
 
 #include <charconv>
-#include <filesystem>
 #include <fstream>
 #include <random>
 #include <stdexcept>
@@ -15,6 +15,7 @@
 
 namespace {
 
+using FluidBenchBenchmark::ScratchFolder;
 using Orv::FluidBench::IO::DFAReader;
 
 constexpr int halfSize = 50'000;
@@ -22,12 +23,6 @@ constexpr int fullSize = 100'000;
 
 // How the depths of the stations follow each other.
 enum Order : std::int64_t { taken, equal };
-
-const std::filesystem::path& Folder() {
-    static const std::filesystem::path folder =
-        std::filesystem::temp_directory_path() / "fluidbench-dfa-benchmark";
-    return folder;
-}
 
 std::string Number(double value) {
     char text[32];
@@ -37,8 +32,7 @@ std::string Number(double value) {
 // Ten wells. Stations come in the order in which they were taken, up and down the well, or all of
 // them lie at one depth. Every station has its pressure in the FT file.
 std::string MainFile(int stations, Order order) {
-    std::filesystem::create_directories(Folder());
-    std::string name = (Folder() / std::to_string(stations)).string();
+    std::string name = (ScratchFolder() / std::to_string(stations)).string();
     name += order == equal ? "equal_" : "taken_";
     std::mt19937 random(11);
     std::uniform_real_distribution<double> anyDepth(6000.0, 10'000.0);
@@ -91,7 +85,7 @@ BENCHMARK(ReadNumbers)->Unit(benchmark::kMillisecond);
 } // namespace
 
 int main(int argumentCount, char** arguments) {
-    const int status = FluidBenchBenchmark::RunAndPrintRatios(
+    return FluidBenchBenchmark::RunAndPrintRatios(
         argumentCount, arguments,
         {{"import of 100,000 stations : getline and from_chars", "Import/100000/0", "ReadNumbers",
           4.0},
@@ -99,6 +93,4 @@ int main(int argumentCount, char** arguments) {
           2.5},
          {"growth, 50,000 to 100,000 stations at one depth", "Import/100000/1", "Import/50000/1",
           2.5}});
-    std::filesystem::remove_all(Folder());
-    return status;
 }

@@ -2,6 +2,7 @@
 // the same cells: std::getline with std::from_chars, std::to_chars with block writes. What plain
 // stream insertion and atof take is told next to them.
 #include "Ratios.h"
+#include "Scratch.h"
 #include "io/PhaseEnvelopeReaderWriter.h"
 
 #include <benchmark/benchmark.h>
@@ -19,6 +20,7 @@
 
 namespace {
 
+using FluidBenchBenchmark::ScratchFolder;
 using Orv::FluidBench::Common::CommonPlottingObject;
 using Orv::FluidBench::Common::Line;
 using Orv::FluidBench::IO::PhaseEnvelopeReaderWriter;
@@ -29,15 +31,6 @@ constexpr std::int64_t fullSize = 1'000'000;
 constexpr char separator = ',';
 constexpr std::size_t columns = 8;
 constexpr std::size_t criticalColumn = 4; // its two columns have one value each
-
-const std::filesystem::path& Folder() {
-    static const std::filesystem::path folder = [] {
-        auto path = std::filesystem::temp_directory_path() / "fluidbench-envelope-benchmark";
-        std::filesystem::create_directories(path);
-        return path;
-    }();
-    return folder;
-}
 
 // One row as the baselines have it.
 using Cells = std::array<double, columns>;
@@ -99,7 +92,7 @@ void WriteFile(const Sample& sample, const std::string& fileName) {
 
 void Write(benchmark::State& state) {
     const Sample& sample = SampleOf(state.range(0));
-    const std::string file = Folder() / "written";
+    const std::string file = ScratchFolder() / "written";
     for (auto _ : state) {
         WriteFile(sample, file);
     }
@@ -115,7 +108,7 @@ void ToChars(benchmark::State& state) {
     constexpr std::size_t roomOfRow = 256;
     std::vector<char> block(std::size_t{64} * 1024);
     for (auto _ : state) {
-        std::ofstream out(Folder() / "written");
+        std::ofstream out(ScratchFolder() / "written");
         char* position = block.data();
         char* const end = block.data() + block.size();
         for (std::size_t row = 0; row < rows.size(); ++row) {
@@ -142,7 +135,7 @@ void ToChars(benchmark::State& state) {
 void StreamInsertion(benchmark::State& state) {
     const std::vector<Cells>& rows = SampleOf(fullSize).rows;
     for (auto _ : state) {
-        std::ofstream out(Folder() / "written");
+        std::ofstream out(ScratchFolder() / "written");
         for (std::size_t row = 0; row < rows.size(); ++row) {
             for (std::size_t column = 0; column < columns; ++column) {
                 if (IsBlank(row, column)) {
@@ -158,7 +151,7 @@ void StreamInsertion(benchmark::State& state) {
 }
 
 std::string FileToRead(std::int64_t rows) {
-    std::string file = Folder() / ("read-" + std::to_string(rows));
+    std::string file = ScratchFolder() / ("read-" + std::to_string(rows));
     if (!std::filesystem::exists(file)) {
         WriteFile(SampleOf(rows), file);
     }
@@ -221,7 +214,7 @@ BENCHMARK(Atof)->Unit(benchmark::kMillisecond);
 } // namespace
 
 int main(int argumentCount, char** arguments) {
-    const int status = FluidBenchBenchmark::RunAndPrintRatios(
+    return FluidBenchBenchmark::RunAndPrintRatios(
         argumentCount, arguments,
         {{"reading : getline and from_chars", "Read/1000000", "FromChars", 2.5},
          {"writing : to_chars and block writes", "Write/1000000", "ToChars", 1.5},
@@ -229,6 +222,4 @@ int main(int argumentCount, char** arguments) {
          {"growth of writing", "Write/1000000", "Write/100000", 13.0},
          {"getline and atof : reading", "Atof", "Read/1000000", 0.0},
          {"plain insertion : writing", "StreamInsertion", "Write/1000000", 0.0}});
-    std::filesystem::remove_all(Folder());
-    return status;
 }

@@ -1,6 +1,7 @@
 // Writing a K-value table of 100,000 records and 20 components, compared with merely putting the
 // same numbers through std::to_chars into cells of the same width. Both flush at each line end.
 #include "Ratios.h"
+#include "Scratch.h"
 #include "io/KValuesExportFileWriter.h"
 
 #include <benchmark/benchmark.h>
@@ -15,6 +16,7 @@
 
 namespace {
 
+using FluidBenchBenchmark::ScratchFolder;
 using Orv::FluidBench::Common::Units;
 using Orv::FluidBench::IO::KValuesExportFileWriter;
 using Orv::FluidBench::Model::KValuesTable;
@@ -25,7 +27,7 @@ constexpr int decimals = 8;
 constexpr std::size_t cellWidth = 24;
 
 std::string TargetFile() {
-    return (std::filesystem::temp_directory_path() / "fluidbench-k-values-benchmark").string();
+    return (ScratchFolder() / "k-values").string();
 }
 
 const KValuesTable& Table() {
@@ -89,9 +91,7 @@ BENCHMARK(ToChars)->Unit(benchmark::kMillisecond);
 } // namespace
 
 int main(int argumentCount, char** arguments) {
-    const int status = FluidBenchBenchmark::RunAndPrintRatios(
+    return FluidBenchBenchmark::RunAndPrintRatios(
         argumentCount, arguments,
         {{"100,000 records of 20 components : to_chars", "Export", "ToChars", 2.0}});
-    std::filesystem::remove(TargetFile());
-    return status;
 }
