@@ -13,7 +13,8 @@ namespace {
 using Flags = std::ios_base::fmtflags;
 
 constexpr int defaultPrecision = 6;
-constexpr int longestInteger = 309; // digits before the point of the largest double
+constexpr std::size_t longestInteger = 309; // digits before the point of the largest double
+constexpr std::size_t longestDressing = 16; // sign, point and exponent
 constexpr std::size_t usualLength = 128;
 
 // The characters of a number in a buffer on the stack, or on the heap when they don't fit.
@@ -21,7 +22,7 @@ class Characters {
 public:
     Characters(double value, NumberFormat format) {
         const int precision = format.precision < 0 ? defaultPrecision : format.precision;
-        Fill(static_cast<std::size_t>(precision) + longestInteger + 16,
+        Fill(static_cast<std::size_t>(precision) + longestInteger + longestDressing,
              [&](char* begin, char* end) {
                  return std::to_chars(begin, end, value, format.notation, precision);
              });

@@ -435,8 +435,7 @@ void IndexBuilder::HintAtCapitals(const DeckLexer& deck, const std::string& keyw
 }
 
 void IndexBuilder::Hint(const DeckLexer& deck, std::uint64_t line, const std::string& text) {
-    constexpr std::size_t mostHints = 50;
-    if (observer_.hint && hints_ < mostHints) {
+    if (observer_.hint && hints_ < DeckIndex::mostHints) {
         ++hints_;
         observer_.hint(Describe(DeckLine{deck.File().Name(), line}) + ": " + text + ".");
     }

@@ -58,12 +58,14 @@ struct DeckObserver {
 ///     MW                       not read, up to the line ENDSKIP
 ///     END                      alone on its line: what is behind it isn't read
 ///
-/// A keyword is a word of capitals and digits that begins with a letter at column one. An indented
-/// word is data, unless it directly follows a wanted keyword's record and is wanted as well. Where
-/// free text or a list of words begins with a wanted keyword, what stands behind it on the line
-/// decides: "MW of the oil" isn't the keyword MW, but "MW 16.04 30.07 /" is. A line that directly
-/// follows a wanted keyword's record gets no such leniency, so that a typing error in it is found.
-/// The observer gets a hint wherever a wanted keyword may have been meant and isn't taken.
+/// A keyword is a word of letters and digits that begins with a letter at column one; a wanted one
+/// is in capitals. An indented word is data, unless it directly follows a wanted keyword's record
+/// and is wanted as well, a section or INCLUDE. Where free text or a list of words begins with a
+/// wanted keyword, what stands behind it on the line decides: "MW of the oil" isn't the keyword MW,
+/// but "MW 16.04 30.07 /" is. A line that directly follows a wanted keyword's record gets no such
+/// leniency, so that a typing error in it is found.
+/// The observer gets a hint wherever a wanted keyword may have been meant and isn't taken, up to
+/// `mostHints` of them.
 class DeckIndex {
 public:
     /// How a wanted keyword's data looks; nothing for a keyword that isn't wanted.
@@ -71,6 +73,7 @@ public:
 
     static constexpr std::size_t deepestInclude = 16;
     static constexpr std::size_t mostIncludes = 10'000;
+    static constexpr std::size_t mostHints = 50;
 
     /// Throws `DeckError` for a deck or an included file that can't be opened, and for an include
     /// that isn't understood, comes back to a file that is being read, or exceeds the bounds.
