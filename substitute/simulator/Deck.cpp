@@ -30,8 +30,4 @@ bool KeywordTracker::addPassedOver(const std::string& name) {
     return passedOver_.size() < mostNames && passedOver_.insert(name).second;
 }
 
-const std::set<std::string>& KeywordTracker::getPassedOver() const {
-    return passedOver_;
-}
-
 } // namespace Orv::Kes::KesModel

@@ -20,7 +20,7 @@ public:
     KeywordTracker(const KeywordTracker&) = delete;
     KeywordTracker& operator=(const KeywordTracker&) = delete;
 
-    // The stand-in's own operations.
+    // The stand-in's own operation.
 
     /// A damaged file can hold any number of words; more names than this aren't remembered.
     static constexpr std::size_t mostNames = 256;
@@ -28,7 +28,6 @@ public:
     /// Remembers the name of a keyword that was passed over. False when it was known already or too
     /// many are.
     bool addPassedOver(const std::string& name);
-    const std::set<std::string>& getPassedOver() const;
 
 private:
     std::set<std::string> passedOver_;
