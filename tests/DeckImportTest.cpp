@@ -5,6 +5,7 @@
 #include "TestSupport.h"
 #include "io/PVOFileReader.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 
@@ -233,6 +234,8 @@ TEST_F(DeckImportTest, TellsWhatIsWrongAndLeavesABlankFluid) {
          "line 2, keyword CNAMES: expected a name for each component alone, found 'C1' twice."},
         {"CNAMES\n'C1 C2 /\n",
          "line 2, keyword CNAMES: expected a name, found a quote that isn't closed on its line."},
+        {"CNAMES\n'C1 'C2' /\n",
+         "line 2, keyword CNAMES: expected a name, found a quote that isn't closed on its line."},
         {"CNAMES\nC1\n12 /\n", "line 3, keyword CNAMES: expected a name, found '12'."},
         {manyNames, "line 2050, keyword CNAMES: expected the names of the components, at most "
                     "2048, found 'P2048' behind 2048 of them."},
@@ -312,6 +315,8 @@ TEST_F(DeckImportTest, HintsAtKeywordsThatAreNotTaken) {
     const std::string mw = twoComponents + "MW\n16 30 /\n";
     const Case cases[] = {
         {mw + "FILEUNIT\nMETRIC /\nPRCORR\n", {16, 30}, ""},
+        {"\xEF\xBB\xBF" + mw, {16, 30}, ""},
+        {mw + "free text, and\n3 wells more\nMW\n17 31 /\n", {17, 31}, "a second time"},
         {twoComponents + "  MW\n\t16 30 /\n", {16, 30}, ""},
         {twoComponents + "ROCK\n1 /\n  MW\n16 30 /\n",
          {0, 0},
@@ -350,7 +355,7 @@ TEST_F(DeckImportTest, HintsAtKeywordsThatAreNotTaken) {
     }
 }
 
-TEST_F(DeckImportTest, BoundsTheDepthOfIncludes) {
+TEST_F(DeckImportTest, BoundsIncludesAndHints) {
     for (int i = 0; i < 20; ++i) {
         folder.Write(std::to_string(i) + ".inc",
                      i == 16 ? "MW\n16 30 /\n" : "INCLUDE\n'" + std::to_string(i + 1) + ".inc' /");
@@ -359,6 +364,17 @@ TEST_F(DeckImportTest, BoundsTheDepthOfIncludes) {
     const Outcome deck = ReadText(twoComponents + "INCLUDE\n'0.inc' /\n");
     EXPECT_EQ(deck.ids, Ids{3243});
     EXPECT_NE(deck.errors.find("expected at most 16 includes in each other"), std::string::npos);
+
+    folder.Write("empty.inc", "");
+    std::string many = twoComponents;
+    for (int i = 0; i < 10'000; ++i) {
+        many += "INCLUDE\n'empty.inc' /\nmw\n";
+    }
+    const Outcome most = ReadText(many);
+    EXPECT_EQ(most.ids, Ids()) << most.errors;
+    EXPECT_EQ(std::ranges::count(most.warnings, '\n'), 50);
+    EXPECT_NE(ReadText(many + "INCLUDE\n'empty.inc' /\n").errors.find("at most 10000 includes"),
+              std::string::npos);
 }
 
 TEST_F(DeckImportTest, ReportsFilesAndValuesThatCannotBe) {
