@@ -1,9 +1,9 @@
+// Phase envelope files: what any text reads as, what plots are written as, and the way there and back.
 #include "IOException.h"
 #include "PhaseEnvelopeFile.h"
 #include "TestSupport.h"
 #include "io/PhaseEnvelopeReaderWriter.h"
 
-#include <cmath>
 #include <sstream>
 #include <stdexcept>
 #include <utility>

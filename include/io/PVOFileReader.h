@@ -19,7 +19,8 @@ namespace Orv::FluidBench::IO {
 /// owns the fluid; the deck is open only during a read. One thread at a time.
 ///
 /// A read sets the severity of the simulator's current logger, which the whole program shares, and
-/// doesn't put it back. That logger is told the reasons of a failure in detail.
+/// doesn't put it back. That logger is told in detail why a deck can't be interpreted (3243); every
+/// other failure is told by the report alone.
 ///
 /// Movable, and not copyable; a reader that was moved from may only be assigned to or destroyed.
 class FLUIDBENCH_IO_API PVOFileReader {
