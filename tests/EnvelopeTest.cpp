@@ -1,4 +1,5 @@
-// Phase envelope files: what any text reads as, what plots are written as, and the way there and back.
+// Phase envelope files: what any text reads as, what plots are written as, and the way there and
+// back.
 #include "IOException.h"
 #include "PhaseEnvelopeFile.h"
 #include "TestSupport.h"
