@@ -32,8 +32,8 @@ public:
     /// Replaces the fluid, which is blank when the import can't go on. Throws `IOFileNotFound` for
     /// a file that can't be opened, and lets pass what the toolbox throws for an empty component
     /// name or a value out of range; every other failure is in the report. Why a deck can't be
-    /// interpreted is told to the simulator's logger. With `detectUnitSystem`, the unit system found
-    /// is kept for later imports.
+    /// interpreted is told to the simulator's logger. With `detectUnitSystem`, the unit system
+    /// found is kept for later imports.
     Common::ErrorReport Import(Model::CompositionalFluid& fluid, bool characterise,
                                bool detectUnitSystem) override;
 
