@@ -47,6 +47,12 @@ TEST_F(ToolTest, EndsWithTheStatusOfWhatHappened) {
     folder.Write("unknown.dat", "CNAMES\nC1 /\nSWFN\n1 2 3 /\n");
     folder.Write("short.csv", "Flash\n\n\n\nBubble\nT,P,\n1");
     folder.Write("no-end.csv", "Flash\n\n\n\nBubble,1\nT,P,\n");
+    folder.Write("long.csv", "Flash\n\n\n\nBubble" + std::string(500, ' ') + "\nT,P,\n");
+    std::string shortHeadings = "Bubble,";
+    for (int i = 0; i < 60; ++i) {
+        shortHeadings += "1,"; // and "Vapour,1," once it is written
+    }
+    folder.Write("terse.csv", "Flash\n\n\n\n" + shortHeadings + "\nT,P,\n");
     folder.Write("other.csv", "Flash\n\nUnits: X(fraction), P(Pa)\n\nBubble,PX2,1,\nX,P,\n");
     struct Case {
         const char* arguments;
@@ -89,6 +95,9 @@ TEST_F(ToolTest, EndsWithTheStatusOfWhatHappened) {
         {"envelope show missing.csv", 1, "", "Could not open file"},
         {"envelope show bad.dat", 1, "", "no phase envelope file"},
         {"envelope show short.csv", 0, "", "Error in column 0"},
+        {"envelope show long.csv", 1, "", "has a line of more than 499 characters"},
+        {"envelope convert terse.csv out.txt --separator tab", 0, "",
+         "'out.txt' has a line of more than 499 characters"},
         {"envelope show no-end.csv", 1, "", "A number in a heading line has no separator"},
         {"envelope show other.csv", 0, "", "PX or TX lines, which can't be read"},
         {"envelope show other.csv", 0, "", "states units other than T(K), P(Pa)"},

@@ -18,6 +18,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace FluidBenchTool {
@@ -42,8 +43,13 @@ bool HasUnknownHeading(std::string_view line) {
     return holds("Bubble") && (holds("PX2") || holds("PX3") || holds("TX2") || holds("TX3"));
 }
 
-// What the library's reader passes over in silence, and a person had better know.
+// What the library's reader passes over in silence, and a person had better know. What isn't an
+// ordinary file, such as a pipe, can't be read once more and passes.
 void WarnOfWhatIsNotRead(const std::string& fileName) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(fileName, error)) {
+        return;
+    }
     constexpr std::size_t longestLine = 499;
     bool hasOtherUnits = false;
     bool hasOtherLines = false;
@@ -92,9 +98,11 @@ Plots ReadPlots(const std::string& fileName) {
     try {
         isRead = file.Read(plots, messages);
     } catch (const std::out_of_range&) {
+        WarnOfWhatIsNotRead(fileName);
         throw CommandFailed("'" + fileName +
                             "': A number in a heading line has no separator behind it.");
     }
+    WarnOfWhatIsNotRead(fileName); // also ahead of a failure: a long line may be what made it
     const std::string& message = messages.back();
     if (!isRead) {
         throw CommandFailed(FailureText(fileName, message, plots.size()));
@@ -102,7 +110,6 @@ Plots ReadPlots(const std::string& fileName) {
     if (!message.empty() && message != readToTheEnd) {
         std::cerr << "warning: '" << fileName << "': " << message << ".\n";
     }
-    WarnOfWhatIsNotRead(fileName);
     return plots;
 }
 
@@ -140,6 +147,7 @@ void Convert(const std::string& input, const std::string& output, bool useComma)
         throw CommandFailed("'" + output + "' can't be opened for writing.");
     }
     RequireWholeFile(output, plots.empty() ? "" : "\n\n");
+    WarnOfWhatIsNotRead(output); // headings and blank cells are written out, and lines get longer
 }
 
 // OUT.svg, OUT-2.svg, OUT-3.svg and so on.

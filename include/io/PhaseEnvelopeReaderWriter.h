@@ -59,8 +59,9 @@ public:
 
     /// Writes the plots, replacing an existing file, with six significant digits. Lines of a type
     /// other than `PhaseCurve` or of an unknown phase are left out, and so is all but the first
-    /// line of phases that are there once. False when the file can't be opened; a write that fails
-    /// afterwards, on a full disk for instance, isn't detected.
+    /// line of phases that are there once. So many vapour fractions that a line of the file has
+    /// more than 499 characters can be written, but not read back. False when the file can't be
+    /// opened; a write that fails afterwards, on a full disk for instance, isn't detected.
     bool Write(const std::vector<Common::CommonPlottingObject>& plots) const;
 
 private:
