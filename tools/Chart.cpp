@@ -1,6 +1,7 @@
 #include "Chart.h"
 
 #include "AxisScale.h"
+#include "Table.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,8 +16,8 @@ using Anchor = TextStyle::Anchor;
 constexpr double width = 960.0;
 constexpr double height = 600.0;
 
-// The area between the axes.
-constexpr double left = 88.0;
+// The area between the axes. Its left side moves to the right for long numbers along the y axis.
+constexpr double usualLeft = 88.0;
 constexpr double right = 712.0;
 constexpr double top = 76.0;
 constexpr double bottom = 526.0;
@@ -24,6 +25,8 @@ constexpr double bottom = 526.0;
 constexpr int xIntervals = 7;
 constexpr int yIntervals = 6;
 
+constexpr double yLabelDistance = 10.0;
+constexpr double yTitleBase = 26.0;
 constexpr double tickLength = 6.0;
 constexpr double minorTickLength = 3.0;
 constexpr double markerRadius = 5.5;
@@ -52,6 +55,7 @@ struct Range {
 struct Axes {
     AxisScale x;
     AxisScale y;
+    double left = usualLeft;
 
     Place On(const Place& point) const {
         return {left + x.Part(point.x) * (right - left), bottom - y.Part(point.y) * (bottom - top)};
@@ -69,15 +73,27 @@ AxisScale ScaleOf(const Range& range, int intervals, bool mayBeginAtZero) {
     return RoundScale(beginsAtZero ? 0.0 : range.least - margin, range.most + margin, intervals);
 }
 
-void DrawTitle(SvgPicture& picture, const Chart& chart) {
+// Where the numbers along the axis stand clear of its title.
+double LeftBeside(const AxisScale& yAxis) {
+    constexpr double gap = 10.0 + yLabelDistance; // to the title and to the axis
+    constexpr double digitWidth = 8.3;            // of the widest of the fonts
+    std::size_t longest = 0;
+    for (const double tick : yAxis.ticks) {
+        longest = std::max(longest, ShownWidth(yAxis.Label(tick)));
+    }
+    const double labels = digitWidth * static_cast<double>(longest);
+    return std::max(usualLeft, yTitleBase + gap + labels);
+}
+
+void DrawTitle(SvgPicture& picture, const Chart& chart, double left) {
     picture.AddText({left, 36.0}, chart.title, {.size = 19.0, .isBold = true});
     picture.AddText({left, 58.0}, chart.subtitle, {.size = 13.0, .colour = "#555555"});
 }
 
 void DrawAxes(SvgPicture& picture, const Chart& chart, const Axes& axes) {
     constexpr double xLabelDistance = 21.0;
-    constexpr double yLabelDistance = 10.0;
     constexpr double halfOfCapitals = 4.5;
+    const double left = axes.left;
     const auto addXTick = [&](double x, double length) {
         picture.AddLine({x, bottom}, {x, bottom + length}, frameStroke);
     };
@@ -107,7 +123,7 @@ void DrawAxes(SvgPicture& picture, const Chart& chart, const Axes& axes) {
     picture.AddRectangle({left, top}, right - left, bottom - top, frameStroke);
     picture.AddText({(left + right) / 2.0, bottom + 50.0}, chart.xLabel,
                     {.size = 15.0, .anchor = Anchor::Middle});
-    picture.AddText({26.0, (top + bottom) / 2.0}, chart.yLabel,
+    picture.AddText({yTitleBase, (top + bottom) / 2.0}, chart.yLabel,
                     {.size = 15.0, .anchor = Anchor::Middle, .isUpward = true});
 }
 
@@ -178,7 +194,6 @@ void DrawLegend(SvgPicture& picture, const std::vector<LegendEntry>& legend) {
 
 std::string DrawChart(const Chart& chart) {
     SvgPicture picture(width, height, chart.title + ", " + chart.subtitle);
-    DrawTitle(picture, chart);
     Range x;
     Range y;
     for (const Curve& curve : chart.curves) {
@@ -190,12 +205,15 @@ std::string DrawChart(const Chart& chart) {
         }
     }
     if (x.IsEmpty()) {
-        picture.AddRectangle({left, top}, right - left, bottom - top, frameStroke);
-        picture.AddText({(left + right) / 2.0, (top + bottom) / 2.0}, "No points",
+        DrawTitle(picture, chart, usualLeft);
+        picture.AddRectangle({usualLeft, top}, right - usualLeft, bottom - top, frameStroke);
+        picture.AddText({(usualLeft + right) / 2.0, (top + bottom) / 2.0}, "No points",
                         {.size = 15.0, .anchor = Anchor::Middle});
         return picture.Finish();
     }
-    const Axes axes{ScaleOf(x, xIntervals, false), ScaleOf(y, yIntervals, true)};
+    Axes axes{ScaleOf(x, xIntervals, false), ScaleOf(y, yIntervals, true)};
+    axes.left = LeftBeside(axes.y);
+    DrawTitle(picture, chart, axes.left);
     DrawAxes(picture, chart, axes);
     for (const Curve& curve : chart.curves) {
         DrawCurve(picture, curve, axes);

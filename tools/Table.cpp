@@ -12,12 +12,6 @@ namespace {
 
 constexpr std::string_view gap = "  ";
 
-// Columns on the screen: bytes that continue a UTF-8 character take no room.
-std::size_t ShownWidth(std::string_view text) {
-    return static_cast<std::size_t>(std::ranges::count_if(
-        text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
-}
-
 std::string Line(const std::vector<std::string>& cells, const std::vector<std::size_t>& widths,
                  std::size_t indent) {
     std::string line(indent, ' ');
@@ -52,6 +46,12 @@ std::string FixedText(double value, int decimals) {
 
 std::string WithMinusSign(const std::string& number) {
     return number.starts_with('-') ? "\u2212" + number.substr(1) : number;
+}
+
+// Bytes that continue a UTF-8 character show nothing of their own.
+std::size_t ShownWidth(std::string_view text) {
+    return static_cast<std::size_t>(std::ranges::count_if(
+        text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
 Table::Table(std::vector<std::string> headings) {

@@ -18,6 +18,9 @@ std::string FixedText(double value, int decimals);
 /// The number's text with the sign of typesetters in place of a leading hyphen.
 std::string WithMinusSign(const std::string& number);
 
+/// How many characters a text in UTF-8 shows.
+std::size_t ShownWidth(std::string_view text);
+
 /// Rows of text in aligned columns: the first column to the left, the others to the right.
 class Table {
 public:
