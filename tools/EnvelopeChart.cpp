@@ -26,7 +26,7 @@ const Look looks[] = {
     {Phase::Aqueous, {"#2a9fd6", 1.8, "12 4 2 4"}},
     {Phase::Ice, {"#8c6d1f", 1.8, "5 3"}},
     {Phase::HydrateTypeI, {"#009e73", 1.8, "9 4"}},
-    {Phase::HydrateTypeII, {"#a64d8f", 1.8, "9 3 3 3"}},
+    {Phase::HydrateTypeII, {"#a64d8f", 1.8, "9 3 2 3 2 3"}},
     {Phase::Dew, {"#c8461e", 2.4, "14 4"}},
     {Phase::Bubble, {"#0b5fa5", 2.4}},
     {Phase::CriticalPoint, {"#222222", 1.0}},
