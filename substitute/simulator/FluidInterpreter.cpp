@@ -207,61 +207,63 @@ constexpr auto None = KeywordData::None;
 constexpr auto Number = KeywordData::Numbers;
 constexpr auto Word = KeywordData::Word;
 constexpr auto Names = KeywordData::Names;
-constexpr bool own = false;  // of the deck as a whole
-constexpr bool fluid = true; // asked of the validator
+constexpr bool ofDeck = false; // counts always
+constexpr bool ofFluid = true; // counts where the validator admits it
 constexpr int noProperty = -1;
 
 // CNAMES comes first, whatever its place in the deck; the other keywords are handled in the order
 // in which they stand there.
+// clang-format off
 constexpr FluidKeyword keywords[] = {
-    {"CNAMES", Names, fluid, nullptr, noProperty},
-    {"NCOMPS", Number, own, CheckCount, noProperty},
-    {"COMPS", Number, own, CheckCount, noProperty},
-    {"FILEUNIT", Word, own, CheckUnits, noProperty},
-    {"ECHO", None, own, nullptr, noProperty},
-    {"METRIC", None, own, nullptr, noProperty},
-    {"FIELD", None, own, nullptr, noProperty},
+    {"CNAMES",   Names,  ofFluid, nullptr,                   noProperty},
+    {"NCOMPS",   Number, ofDeck,  CheckCount,                noProperty},
+    {"COMPS",    Number, ofDeck,  CheckCount,                noProperty},
+    {"FILEUNIT", Word,   ofDeck,  CheckUnits,                noProperty},
+    {"ECHO",     None,   ofDeck,  nullptr,                   noProperty},
+    {"METRIC",   None,   ofDeck,  nullptr,                   noProperty},
+    {"FIELD",    None,   ofDeck,  nullptr,                   noProperty},
 
-    {"EOS", Word, fluid, ReadEquationOfState, noProperty},
-    {"PRCORR", None, own, CorrectEquationOfState, noProperty},
-    {"MW", Number, fluid, ReadProperty, IComponent::MOLECULAR_WEIGHT},
-    {"PCRIT", Number, fluid, ReadProperty, IComponent::CRITICAL_PRESSURE},
-    {"TCRIT", Number, fluid, ReadProperty, IComponent::CRITICAL_TEMPERATURE},
-    {"VCRIT", Number, fluid, ReadProperty, IComponent::CRITICAL_VOLUME},
-    {"ZCRIT", Number, fluid, ReadProperty, IComponent::CRITICAL_Z_FACTOR},
-    {"ACF", Number, fluid, ReadProperty, IComponent::ACENTRIC_FACTOR},
-    {"PARACHOR", Number, fluid, ReadProperty, IComponent::PARACHOR},
-    {"SSHIFT", Number, fluid, ReadProperty, IComponent::VOLUME_SHIFT},
-    {"OMEGAA", Number, fluid, ReadProperty, IComponent::OMEGA_A},
-    {"OMEGAB", Number, fluid, ReadProperty, IComponent::OMEGA_B},
-    {"VCRITVIS", Number, fluid, ReadProperty, IComponent::CRITICAL_VOLUME_FOR_VISCOSITY},
-    {"ZCRITVIS", Number, fluid, ReadProperty, IComponent::CRITICAL_Z_FACTOR_FOR_VISCOSITY},
-    {"SPECHA", Number, fluid, ReadProperty, IComponent::SPECIFIC_HEAT_A},
-    {"SPECHB", Number, fluid, ReadProperty, IComponent::SPECIFIC_HEAT_B},
-    {"SPECHG", Number, fluid, ReadProperty, IComponent::SPECIFIC_HEAT_G},
-    {"SPECHH", Number, fluid, ReadProperty, IComponent::SPECIFIC_HEAT_H},
-    {"BIC", Number, fluid, ReadCoefficients, noProperty},
+    {"EOS",      Word,   ofFluid, ReadEquationOfState,       noProperty},
+    {"PRCORR",   None,   ofDeck,  CorrectEquationOfState,    noProperty},
+    {"MW",       Number, ofFluid, ReadProperty,              IComponent::MOLECULAR_WEIGHT},
+    {"PCRIT",    Number, ofFluid, ReadProperty,              IComponent::CRITICAL_PRESSURE},
+    {"TCRIT",    Number, ofFluid, ReadProperty,              IComponent::CRITICAL_TEMPERATURE},
+    {"VCRIT",    Number, ofFluid, ReadProperty,              IComponent::CRITICAL_VOLUME},
+    {"ZCRIT",    Number, ofFluid, ReadProperty,              IComponent::CRITICAL_Z_FACTOR},
+    {"ACF",      Number, ofFluid, ReadProperty,              IComponent::ACENTRIC_FACTOR},
+    {"PARACHOR", Number, ofFluid, ReadProperty,              IComponent::PARACHOR},
+    {"SSHIFT",   Number, ofFluid, ReadProperty,              IComponent::VOLUME_SHIFT},
+    {"OMEGAA",   Number, ofFluid, ReadProperty,              IComponent::OMEGA_A},
+    {"OMEGAB",   Number, ofFluid, ReadProperty,              IComponent::OMEGA_B},
+    {"VCRITVIS", Number, ofFluid, ReadProperty,              IComponent::CRITICAL_VOLUME_FOR_VISCOSITY},
+    {"ZCRITVIS", Number, ofFluid, ReadProperty,              IComponent::CRITICAL_Z_FACTOR_FOR_VISCOSITY},
+    {"SPECHA",   Number, ofFluid, ReadProperty,              IComponent::SPECIFIC_HEAT_A},
+    {"SPECHB",   Number, ofFluid, ReadProperty,              IComponent::SPECIFIC_HEAT_B},
+    {"SPECHG",   Number, ofFluid, ReadProperty,              IComponent::SPECIFIC_HEAT_G},
+    {"SPECHH",   Number, ofFluid, ReadProperty,              IComponent::SPECIFIC_HEAT_H},
+    {"BIC",      Number, ofFluid, ReadCoefficients,          noProperty},
 
-    {"PEDERSEN", None, fluid, UsePedersen, noProperty},
-    {"LBCCOEF", Number, own, ReadViscosityCoefficients, noProperty},
-    {"ZI", Number, fluid, ReadComposition, noProperty},
-    {"ZMFVD", Number, fluid, ReadCompositionByDepth, noProperty},
+    {"PEDERSEN", None,   ofFluid, UsePedersen,               noProperty},
+    {"LBCCOEF",  Number, ofDeck,  ReadViscosityCoefficients, noProperty},
+    {"ZI",       Number, ofFluid, ReadComposition,           noProperty},
+    {"ZMFVD",    Number, ofFluid, ReadCompositionByDepth,    noProperty},
 
     // Read and not stored: nothing in the store stands for the reservoir's temperature or for the
     // equation of state at the surface.
-    {"RTEMP", Number, fluid, CheckNumber, noProperty},
-    {"EOSS", Word, fluid, CheckEquationOfState, noProperty},
-    {"MWS", Number, fluid, CheckProperty, noProperty},
-    {"PCRITS", Number, fluid, CheckProperty, noProperty},
-    {"TCRITS", Number, fluid, CheckProperty, noProperty},
-    {"VCRITS", Number, fluid, CheckProperty, noProperty},
-    {"ZCRITS", Number, fluid, CheckProperty, noProperty},
-    {"ACFS", Number, fluid, CheckProperty, noProperty},
-    {"SSHIFTS", Number, fluid, CheckProperty, noProperty},
-    {"OMEGAAS", Number, fluid, CheckProperty, noProperty},
-    {"OMEGABS", Number, fluid, CheckProperty, noProperty},
-    {"BICS", Number, fluid, CheckCoefficients, noProperty},
+    {"RTEMP",    Number, ofFluid, CheckNumber,               noProperty},
+    {"EOSS",     Word,   ofFluid, CheckEquationOfState,      noProperty},
+    {"MWS",      Number, ofFluid, CheckProperty,             noProperty},
+    {"PCRITS",   Number, ofFluid, CheckProperty,             noProperty},
+    {"TCRITS",   Number, ofFluid, CheckProperty,             noProperty},
+    {"VCRITS",   Number, ofFluid, CheckProperty,             noProperty},
+    {"ZCRITS",   Number, ofFluid, CheckProperty,             noProperty},
+    {"ACFS",     Number, ofFluid, CheckProperty,             noProperty},
+    {"SSHIFTS",  Number, ofFluid, CheckProperty,             noProperty},
+    {"OMEGAAS",  Number, ofFluid, CheckProperty,             noProperty},
+    {"OMEGABS",  Number, ofFluid, CheckProperty,             noProperty},
+    {"BICS",     Number, ofFluid, CheckCoefficients,         noProperty},
 };
+// clang-format on
 
 // Every word at the head of a line is looked up, and a large deck has millions of them.
 const FluidKeyword* Find(std::string_view name) {
