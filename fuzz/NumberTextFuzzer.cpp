@@ -13,7 +13,7 @@
 namespace {
 
 using namespace FluidBenchFuzz;
-using namespace Orv::FluidBench::Impl::IO;
+using namespace Orv::Text;
 using Ios = std::ios_base;
 
 // The same number, the sign of a zero included.

@@ -8,7 +8,7 @@
 #include <random>
 #include <sstream>
 
-using namespace Orv::FluidBench::Impl::IO;
+using namespace Orv::Text;
 
 namespace {
 

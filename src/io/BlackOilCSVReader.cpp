@@ -24,10 +24,10 @@
 namespace Orv::FluidBench::IO {
 
 using Common::Units;
-using Impl::IO::LineReader;
-using Impl::IO::ParseAsAtof;
 using Model::BlackOilDataRecords;
 using Model::BlackOilTable;
+using Text::LineReader;
+using Text::ParseAsAtof;
 
 namespace {
 

@@ -14,6 +14,7 @@
 #include "BlackOilFormatters.h"
 #include "DeckText.h"
 #include "NumberText.h"
+#include "OutputFile.h"
 #include "TextFile.h"
 
 #include <fstream>
@@ -29,13 +30,13 @@ using Common::Phase;
 using Common::Units;
 using Experiments::ExperimentResults;
 using Experiments::Stage;
-using Impl::IO::AppendNumber;
-using Impl::IO::blockSize;
-using Impl::IO::NumberFormat;
 using Impl::IO::OpenOrReport;
 using Model::BlackOilDataRecords;
 using Model::BlackOilTable;
 using Model::CompositionalFluid;
+using Text::AppendNumber;
+using Text::blockSize;
+using Text::NumberFormat;
 
 namespace {
 

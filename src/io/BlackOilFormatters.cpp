@@ -8,9 +8,9 @@
 namespace Orv::FluidBench::IO {
 
 using Common::Units;
-using Impl::IO::AppendNumber;
-using Impl::IO::FormatOf;
-using Impl::IO::NumberFormat;
+using Text::AppendNumber;
+using Text::FormatOf;
+using Text::NumberFormat;
 
 namespace {
 

@@ -15,9 +15,9 @@ using Common::pvtEnumEoS;
 using Common::pvtEnumPropertySource;
 using Common::pvtEnumViscosityMethod;
 using Common::Units;
-using Impl::IO::AppendNumber;
 using Model::CompositionalFluid;
 using Model::FluidComponent;
+using Text::AppendNumber;
 using Utilities::ModelParameters;
 using Utilities::Strings;
 

@@ -22,11 +22,11 @@ using Experiments::ExperimentType;
 using Experiments::ObservedExperiment;
 using Experiments::Stage;
 using Experiments::StageResults;
-using Impl::IO::ExtractDecimal;
-using Impl::IO::LineReader;
 using Model::ComponentLibrary;
 using Model::CompositionalFluid;
 using Model::FluidComponent;
+using Text::ExtractDecimal;
+using Text::LineReader;
 
 namespace {
 

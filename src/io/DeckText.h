@@ -10,7 +10,7 @@
 namespace Orv::FluidBench::IO {
 
 /// Ten significant digits, as printf's %.10g: every number of a deck.
-inline constexpr Impl::IO::NumberFormat deckNumber{std::chars_format::general, 10};
+inline constexpr Text::NumberFormat deckNumber{std::chars_format::general, 10};
 
 /// The record that tells a keyword file's unit system, with its line ends:
 ///

@@ -19,7 +19,7 @@
 #include "FluidBench/Utilities/Equations.h"
 #include "Messages.h"
 #include "NumberText.h"
-#include "TextFile.h"
+#include "OutputFile.h"
 
 #include <algorithm>
 #include <compare>
@@ -35,11 +35,11 @@ using Experiments::ExperimentResults;
 using Experiments::MSTExperiment;
 using Experiments::oilLikeFluidState;
 using Experiments::Stage;
-using Impl::IO::AppendNumber;
 using Impl::IO::FreeText;
-using Impl::IO::NumberFormat;
 using Impl::IO::OpenOrReport;
 using Model::CompositionalFluid;
+using Text::AppendNumber;
+using Text::NumberFormat;
 using Utilities::Equations;
 
 namespace {

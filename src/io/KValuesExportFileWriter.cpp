@@ -20,7 +20,7 @@
 
 #include "DeckText.h"
 #include "Messages.h"
-#include "TextFile.h"
+#include "OutputFile.h"
 #include "io/KValuesTableFormatter.h"
 
 #include <fstream>

@@ -10,8 +10,8 @@
 namespace Orv::FluidBench::IO {
 
 using Common::Units;
-using Impl::IO::WriteNumber;
 using Model::KValuesTable;
+using Text::WriteNumber;
 
 namespace {
 

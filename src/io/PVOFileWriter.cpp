@@ -17,7 +17,7 @@
 #include "DeckText.h"
 #include "FluidBench/Common/Units.h"
 #include "NumberText.h"
-#include "TextFile.h"
+#include "OutputFile.h"
 
 #include <fstream>
 
@@ -26,9 +26,9 @@ namespace Orv::FluidBench::IO {
 using Common::ErrorReport;
 using Common::pvtEnumEoS;
 using Common::Units;
-using Impl::IO::AppendNumber;
 using Impl::IO::OpenOrReport;
 using Model::CompositionalFluid;
+using Text::AppendNumber;
 
 namespace {
 

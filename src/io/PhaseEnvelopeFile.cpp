@@ -8,6 +8,7 @@
 namespace Orv::FluidBench::Impl::IO {
 
 using Common::CommonPlottingObject;
+using Text::OpenForWriting;
 
 namespace {
 

@@ -12,6 +12,7 @@ namespace Orv::FluidBench::Impl::IO {
 using Common::CommonPlottingObject;
 using Common::Line;
 using Common::PTline;
+using Text::ParseLeadingDecimal;
 using AxisType = CommonPlottingObject::AxisType;
 using Identifier = PTline::PTlineIdentifier;
 

@@ -37,7 +37,7 @@ private:
     static constexpr std::size_t longestLine = 499;
     static constexpr std::size_t linesToLetters = 6; // the letter line is the last of these
 
-    LineReader reader_;
+    Text::LineReader reader_;
     std::array<std::string, linesToLetters> head_;
     std::size_t headSize_ = 0;
     std::size_t headTaken_ = 0;

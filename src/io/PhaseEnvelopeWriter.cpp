@@ -15,6 +15,9 @@ namespace Orv::FluidBench::Impl::IO {
 using Common::CommonPlottingObject;
 using Common::Line;
 using Common::Point;
+using Text::AppendNumber;
+using Text::blockSize;
+using Text::NumberFormat;
 using AxisType = CommonPlottingObject::AxisType;
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include "DeckText.h"
 #include "Messages.h"
-#include "TextFile.h"
+#include "OutputFile.h"
 #include "io/ThermalTableFormatter.h"
 
 #include <algorithm>

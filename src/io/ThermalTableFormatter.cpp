@@ -8,7 +8,7 @@
 namespace Orv::FluidBench::IO {
 
 using Common::Units;
-using Impl::IO::WriteNumber;
+using Text::WriteNumber;
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "DeckIndex.h"
 
-#include "DeckCharacters.h"
-#include "DeckLexer.h"
-#include "DeckNumber.h"
+#include "Characters.h"
+#include "KeywordLexer.h"
+#include "NumberText.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -14,9 +14,20 @@
 
 namespace Orv::Kes::KesModel {
 
+using Text::Capitals;
+using Text::IsDigit;
+using Text::IsLetter;
+using Text::IsSmallLetter;
+using Text::KeywordError;
+using Text::KeywordLexer;
+using Text::ParseCount;
+using Text::ParseNumber;
+using Text::Quote;
+using Text::Token;
+
 namespace {
 
-using Kind = DeckToken::Kind;
+using Kind = Token::Kind;
 
 struct Section {
     std::string_view name;
@@ -27,26 +38,26 @@ constexpr Section sections[] = {
     {"SOLUTION", true}, {"SUMMARY", false}, {"SCHEDULE", false},
 };
 
-bool LooksLikeKeyword(const DeckToken& token) {
+bool LooksLikeKeyword(const Token& token) {
     return token.kind == Kind::Word && IsLetter(token.text[0]) &&
            std::ranges::all_of(token.text, [](char c) { return IsLetter(c) || IsDigit(c); });
 }
-bool IsKeyword(const DeckToken& token) {
+bool IsKeyword(const Token& token) {
     return token.isAtHeadOfLine && LooksLikeKeyword(token);
 }
 
-bool EndsLine(const DeckToken& token) noexcept {
+bool EndsLine(const Token& token) noexcept {
     return token.kind == Kind::LineEnd || token.kind == Kind::FileEnd;
 }
 
-bool BeginsLikeNumber(const DeckToken& token) noexcept {
+bool BeginsLikeNumber(const Token& token) noexcept {
     const std::size_t first = token.text.find_first_not_of("+-.");
     return token.kind == Kind::Word && first != std::string_view::npos &&
            IsDigit(token.text[first]);
 }
 
 // "16.04", and also "l6.04", "*16" and "nan": whoever wrote that meant a number.
-bool IsMeantAsNumber(const DeckToken& token) {
+bool IsMeantAsNumber(const Token& token) {
     if (token.kind != Kind::Word || BeginsLikeNumber(token)) {
         return token.kind == Kind::Word;
     }
@@ -58,7 +69,7 @@ bool IsMeantAsNumber(const DeckToken& token) {
 }
 
 // A number, a quoted text, or either with a repeat count.
-bool IsData(const DeckToken& token) {
+bool IsData(const Token& token) {
     if (token.kind != Kind::Word) {
         return token.kind == Kind::Quoted;
     }
@@ -80,7 +91,7 @@ public:
         : wanted_(wanted), observer_(observer), keywords_(keywords) {}
 
     /// Gives the line on which the file ends.
-    std::uint64_t ReadFile(DeckLexer& deck);
+    std::uint64_t ReadFile(KeywordLexer& deck);
 
 private:
     // What the lines before say about a line that doesn't begin with a keyword for sure.
@@ -91,26 +102,26 @@ private:
     };
     enum class Record { Closed, Open, None };
 
-    void ReadLine(DeckLexer& deck, const DeckToken& first);
-    bool IsIndentedKeyword(const DeckToken& first, const DeckLexer& deck);
-    void ReadKeyword(DeckLexer& deck, const std::string& keyword);
-    void ReadTitle(DeckLexer& deck);
-    void ReadEnd(DeckLexer& deck);
-    void ReadSkip(DeckLexer& deck);
-    void ReadSection(DeckLexer& deck, const Section& section);
-    void ReadInclude(DeckLexer& deck);
-    void ReadWanted(DeckLexer& deck, const std::string& keyword, KeywordData data);
-    bool IsMeantAsKeyword(DeckLexer& deck, KeywordData data, DeckToken& next) const;
-    void ReadUnwanted(DeckLexer& deck, const std::string& keyword);
-    void ReadFreeText(DeckLexer& deck);
+    void ReadLine(KeywordLexer& deck, const Token& first);
+    bool IsIndentedKeyword(const Token& first, const KeywordLexer& deck);
+    void ReadKeyword(KeywordLexer& deck, const std::string& keyword);
+    void ReadTitle(KeywordLexer& deck);
+    void ReadEnd(KeywordLexer& deck);
+    void ReadSkip(KeywordLexer& deck);
+    void ReadSection(KeywordLexer& deck, const Section& section);
+    void ReadInclude(KeywordLexer& deck);
+    void ReadWanted(KeywordLexer& deck, const std::string& keyword, KeywordData data);
+    bool IsMeantAsKeyword(KeywordLexer& deck, KeywordData data, Token& next) const;
+    void ReadUnwanted(KeywordLexer& deck, const std::string& keyword);
+    void ReadFreeText(KeywordLexer& deck);
 
-    static Record ReadRestOfDataLine(DeckLexer& deck);
-    void SkipRecord(DeckLexer& deck, Record record, std::uint64_t opened,
+    static Record ReadRestOfDataLine(KeywordLexer& deck);
+    void SkipRecord(KeywordLexer& deck, Record record, std::uint64_t opened,
                     KeywordData data = KeywordData::Numbers);
-    void Include(const std::string& path, const DeckLine& line);
-    void Remember(const DeckLexer& deck, KeywordPlace place);
-    void HintAtCapitals(const DeckLexer& deck, const std::string& keyword);
-    void Hint(const DeckLexer& deck, std::uint64_t line, const std::string& text);
+    void Include(const std::string& path, const FilePlace& line);
+    void Remember(const KeywordLexer& deck, KeywordPlace place);
+    void HintAtCapitals(const KeywordLexer& deck, const std::string& keyword);
+    void Hint(const KeywordLexer& deck, std::uint64_t line, const std::string& text);
 
     const DeckIndex::Wanted& wanted_;
     const DeckObserver& observer_;
@@ -123,10 +134,10 @@ private:
     bool hasEnded_ = false; // by the keyword
 };
 
-std::uint64_t IndexBuilder::ReadFile(DeckLexer& deck) {
+std::uint64_t IndexBuilder::ReadFile(KeywordLexer& deck) {
     openFiles_.emplace_back(deck.File().Name());
     while (!hasEnded_) {
-        const DeckToken first = deck.Next();
+        const Token first = deck.Next();
         if (first.kind == Kind::FileEnd) {
             break;
         }
@@ -136,7 +147,7 @@ std::uint64_t IndexBuilder::ReadFile(DeckLexer& deck) {
     return deck.File().Line();
 }
 
-void IndexBuilder::ReadLine(DeckLexer& deck, const DeckToken& first) {
+void IndexBuilder::ReadLine(KeywordLexer& deck, const Token& first) {
     if (IsKeyword(first) || IsIndentedKeyword(first, deck)) {
         ReadKeyword(deck, std::string(first.text));
     } else if (first.kind == Kind::Slash) {
@@ -155,7 +166,7 @@ void IndexBuilder::ReadLine(DeckLexer& deck, const DeckToken& first) {
 
 // Between records an indented word may well be meant as a keyword. Where it may as well be the data
 // of a keyword that isn't known, a hint has to do.
-bool IndexBuilder::IsIndentedKeyword(const DeckToken& first, const DeckLexer& deck) {
+bool IndexBuilder::IsIndentedKeyword(const Token& first, const KeywordLexer& deck) {
     if (first.isAtHeadOfLine || !LooksLikeKeyword(first) ||
         !(wanted_(first.text) || first.text == "INCLUDE" ||
           std::ranges::find(sections, first.text, &Section::name) != std::end(sections))) {
@@ -169,7 +180,7 @@ bool IndexBuilder::IsIndentedKeyword(const DeckToken& first, const DeckLexer& de
     return context_ == Context::WantedKeyword;
 }
 
-void IndexBuilder::ReadKeyword(DeckLexer& deck, const std::string& keyword) {
+void IndexBuilder::ReadKeyword(KeywordLexer& deck, const std::string& keyword) {
     const auto* const section = std::ranges::find(sections, keyword, &Section::name);
     const bool mayBeWanted = section_ == nullptr || section_->mayHoldFluidData;
     if (keyword == "TITLE") {
@@ -195,7 +206,7 @@ void IndexBuilder::ReadKeyword(DeckLexer& deck, const std::string& keyword) {
     }
 }
 
-void IndexBuilder::ReadTitle(DeckLexer& deck) {
+void IndexBuilder::ReadTitle(KeywordLexer& deck) {
     if (deck.Next().kind == Kind::LineEnd) {
         deck.SkipCommentLines();
     }
@@ -204,8 +215,8 @@ void IndexBuilder::ReadTitle(DeckLexer& deck) {
 }
 
 // What stands behind END isn't read. "END of the deck" is free text.
-void IndexBuilder::ReadEnd(DeckLexer& deck) {
-    const DeckToken next = deck.Next();
+void IndexBuilder::ReadEnd(KeywordLexer& deck) {
+    const Token next = deck.Next();
     hasEnded_ = EndsLine(next) || next.kind == Kind::Slash;
     if (!hasEnded_) {
         ReadFreeText(deck);
@@ -213,14 +224,14 @@ void IndexBuilder::ReadEnd(DeckLexer& deck) {
 }
 
 // Everything up to ENDSKIP is put out of force.
-void IndexBuilder::ReadSkip(DeckLexer& deck) {
+void IndexBuilder::ReadSkip(KeywordLexer& deck) {
     const std::uint64_t opened = deck.File().Line();
     if (!EndsLine(deck.Next())) {
         ReadFreeText(deck);
         return;
     }
     for (;;) {
-        const DeckToken first = deck.Next();
+        const Token first = deck.Next();
         if (first.kind == Kind::FileEnd) {
             Hint(deck, opened, "SKIP isn't closed by ENDSKIP before the end of the file");
             return;
@@ -236,8 +247,8 @@ void IndexBuilder::ReadSkip(DeckLexer& deck) {
 }
 
 // A row of dots or dashes behind a section's name is ornament.
-void IndexBuilder::ReadSection(DeckLexer& deck, const Section& section) {
-    const DeckToken next = deck.Next();
+void IndexBuilder::ReadSection(KeywordLexer& deck, const Section& section) {
+    const Token next = deck.Next();
     const bool isOrnament = next.kind == Kind::Word && !IsLetter(next.text[0]) && !IsData(next);
     if (!EndsLine(next)) {
         ReadFreeText(deck);
@@ -248,9 +259,9 @@ void IndexBuilder::ReadSection(DeckLexer& deck, const Section& section) {
     }
 }
 
-void IndexBuilder::ReadWanted(DeckLexer& deck, const std::string& keyword, KeywordData data) {
+void IndexBuilder::ReadWanted(KeywordLexer& deck, const std::string& keyword, KeywordData data) {
     KeywordPlace place{keyword, {deck.File().Name(), deck.File().Line()}, deck.File().Offset()};
-    DeckToken next = deck.Next();
+    Token next = deck.Next();
     if (!IsMeantAsKeyword(deck, data, next)) {
         Hint(deck, place.line.line,
              keyword + " isn't taken for the keyword because of the text behind it");
@@ -270,7 +281,7 @@ void IndexBuilder::ReadWanted(DeckLexer& deck, const std::string& keyword, Keywo
 
 // Whether the text behind a wanted keyword suits it, or its place leaves no doubt. `next` is the
 // token behind the keyword, and afterwards the last one that was looked at.
-bool IndexBuilder::IsMeantAsKeyword(DeckLexer& deck, KeywordData data, DeckToken& next) const {
+bool IndexBuilder::IsMeantAsKeyword(KeywordLexer& deck, KeywordData data, Token& next) const {
     const auto endsRecord = [&next] { return EndsLine(next) || next.kind == Kind::Slash; };
     if (endsRecord()) {
         return true;
@@ -295,10 +306,10 @@ bool IndexBuilder::IsMeantAsKeyword(DeckLexer& deck, KeywordData data, DeckToken
     return suits || context_ == Context::WantedKeyword;
 }
 
-void IndexBuilder::ReadUnwanted(DeckLexer& deck, const std::string& keyword) {
+void IndexBuilder::ReadUnwanted(KeywordLexer& deck, const std::string& keyword) {
     const std::uint64_t line = deck.File().Line();
     const Context before = context_;
-    const DeckToken next = deck.Next();
+    const Token next = deck.Next();
     Record record = Record::Closed;
     context_ = Context::OtherKeyword;
     if (next.kind == Kind::Slash) {
@@ -317,16 +328,16 @@ void IndexBuilder::ReadUnwanted(DeckLexer& deck, const std::string& keyword) {
     }
 }
 
-void IndexBuilder::ReadFreeText(DeckLexer& deck) {
+void IndexBuilder::ReadFreeText(KeywordLexer& deck) {
     deck.SkipLine();
     context_ = Context::FreeText;
 }
 
 // Passes the rest of a line of data, up to the end of its record, its own end or the first word
 // that isn't data. A slash and such a word take the rest of the line with them.
-IndexBuilder::Record IndexBuilder::ReadRestOfDataLine(DeckLexer& deck) {
+IndexBuilder::Record IndexBuilder::ReadRestOfDataLine(KeywordLexer& deck) {
     for (;;) {
-        const DeckToken token = deck.Next();
+        const Token token = deck.Next();
         if (EndsLine(token)) {
             return Record::Open;
         }
@@ -340,12 +351,12 @@ IndexBuilder::Record IndexBuilder::ReadRestOfDataLine(DeckLexer& deck) {
 // Words in an open record are data, whatever they look like. When it was left open by mistake, the
 // keywords that stand in it are missing afterwards, which is hard to find out without a hint. The
 // one word that a record should have may well be a keyword too, as METRIC is under FILEUNIT.
-void IndexBuilder::SkipRecord(DeckLexer& deck, Record record, std::uint64_t opened,
+void IndexBuilder::SkipRecord(KeywordLexer& deck, Record record, std::uint64_t opened,
                               KeywordData data) {
     bool isExpectedWord = data == KeywordData::Word;
     while (record == Record::Open) {
         deck.SkipPlainText();
-        const DeckToken token = deck.Next();
+        const Token token = deck.Next();
         if (token.kind == Kind::Slash) {
             deck.SkipLine();
             record = Record::Closed;
@@ -361,9 +372,9 @@ void IndexBuilder::SkipRecord(DeckLexer& deck, Record record, std::uint64_t open
     }
 }
 
-void IndexBuilder::ReadInclude(DeckLexer& deck) {
-    const DeckLine line{deck.File().Name(), deck.File().Line()};
-    DeckToken path = deck.Next();
+void IndexBuilder::ReadInclude(KeywordLexer& deck) {
+    const FilePlace line{deck.File().Name(), deck.File().Line()};
+    Token path = deck.Next();
     if (path.kind == Kind::Word && context_ != Context::WantedKeyword) {
         Hint(deck, line.line,
              "INCLUDE isn't taken for the keyword because no path in quotes is behind it");
@@ -374,23 +385,23 @@ void IndexBuilder::ReadInclude(DeckLexer& deck) {
         path = deck.Next();
     }
     if (path.kind != Kind::Quoted || path.text.empty()) {
-        throw DeckError(line, "INCLUDE", "a path in quotes", Describe(path));
+        throw KeywordError(line, "INCLUDE", "a path in quotes", Describe(path));
     }
     const std::filesystem::path folder = std::filesystem::path(deck.File().Name()).parent_path();
     const std::string included = (folder / std::string(path.text)).string();
-    const DeckToken behind = deck.Next();
+    const Token behind = deck.Next();
     if (!EndsLine(behind)) {
         if (behind.kind != Kind::Slash) {
-            throw DeckError(line, "INCLUDE", "'/' behind the path", Describe(behind));
+            throw KeywordError(line, "INCLUDE", "'/' behind the path", Describe(behind));
         }
         deck.SkipLine();
     }
     Include(included, line);
 }
 
-void IndexBuilder::Include(const std::string& path, const DeckLine& line) {
+void IndexBuilder::Include(const std::string& path, const FilePlace& line) {
     const auto fail = [&](const std::string& expected, const std::string& found) {
-        throw DeckError(line, "INCLUDE", expected, found);
+        throw KeywordError(line, "INCLUDE", expected, found);
     };
     const auto isSameFile = [&](const std::filesystem::path& open) {
         std::error_code error;
@@ -407,16 +418,16 @@ void IndexBuilder::Include(const std::string& path, const DeckLine& line) {
         fail("at most " + std::to_string(DeckIndex::mostIncludes) + " includes in a deck",
              "one more, " + Quote(path));
     }
-    std::unique_ptr<DeckLexer> deck;
+    std::unique_ptr<KeywordLexer> deck;
     try {
-        deck = std::make_unique<DeckLexer>(path);
+        deck = std::make_unique<KeywordLexer>(path);
     } catch (const std::runtime_error& error) {
         fail("a file to include", error.what() + (", " + Quote(path)));
     }
     ReadFile(*deck);
 }
 
-void IndexBuilder::Remember(const DeckLexer& deck, KeywordPlace place) {
+void IndexBuilder::Remember(const KeywordLexer& deck, KeywordPlace place) {
     const auto earlier = std::ranges::find(keywords_, place.keyword, &KeywordPlace::keyword);
     if (earlier != keywords_.end()) {
         Hint(deck, place.line.line, place.keyword + " stands a second time, and this time counts");
@@ -425,7 +436,7 @@ void IndexBuilder::Remember(const DeckLexer& deck, KeywordPlace place) {
     keywords_.push_back(std::move(place));
 }
 
-void IndexBuilder::HintAtCapitals(const DeckLexer& deck, const std::string& keyword) {
+void IndexBuilder::HintAtCapitals(const KeywordLexer& deck, const std::string& keyword) {
     const std::string capitals = Capitals(keyword);
     if (wanted_(capitals) || capitals == "INCLUDE") {
         Hint(deck, deck.File().Line(),
@@ -434,10 +445,10 @@ void IndexBuilder::HintAtCapitals(const DeckLexer& deck, const std::string& keyw
     }
 }
 
-void IndexBuilder::Hint(const DeckLexer& deck, std::uint64_t line, const std::string& text) {
+void IndexBuilder::Hint(const KeywordLexer& deck, std::uint64_t line, const std::string& text) {
     if (observer_.hint && hints_ < DeckIndex::mostHints) {
         ++hints_;
-        observer_.hint(Describe(DeckLine{deck.File().Name(), line}) + ": " + text + ".");
+        observer_.hint(Describe(FilePlace{deck.File().Name(), line}) + ": " + text + ".");
     }
 }
 
@@ -446,11 +457,11 @@ void IndexBuilder::Hint(const DeckLexer& deck, std::uint64_t line, const std::st
 DeckIndex::DeckIndex(const std::string& fileName, const Wanted& wanted,
                      const DeckObserver& observer)
     : end_{fileName, 1} {
-    std::unique_ptr<DeckLexer> deck;
+    std::unique_ptr<KeywordLexer> deck;
     try {
-        deck = std::make_unique<DeckLexer>(fileName);
+        deck = std::make_unique<KeywordLexer>(fileName);
     } catch (const std::runtime_error& error) {
-        throw DeckError(end_, "none", "a deck", error.what());
+        throw KeywordError(end_, "none", "a deck", error.what());
     }
     end_.line = IndexBuilder(wanted, observer, keywords_).ReadFile(*deck);
 }

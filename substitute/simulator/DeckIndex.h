@@ -1,7 +1,7 @@
 // Where the keywords that somebody wants stand in a deck.
 #pragma once
 
-#include "DeckError.h"
+#include "KeywordRecord.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -13,19 +13,15 @@
 
 namespace Orv::Kes::KesModel {
 
+using Text::FilePlace;
+using Text::KeywordPlace;
+
 /// What stands behind a keyword.
 enum class KeywordData {
     None,    ///< nothing, not even a slash
     Numbers, ///< a record of numbers
     Word,    ///< a record of one word, with or without quotes
     Names    ///< a record of any number of names, with or without quotes
-};
-
-/// A keyword and the position right behind it.
-struct KeywordPlace {
-    std::string keyword;
-    DeckLine line;
-    std::uint64_t offset = 0;
 };
 
 /// What an index tells while it is made. Any of the functions may be empty.
@@ -75,8 +71,9 @@ public:
     static constexpr std::size_t mostIncludes = 10'000;
     static constexpr std::size_t mostHints = 50;
 
-    /// Throws `DeckError` for a deck or an included file that can't be opened, and for an include
-    /// that isn't understood, comes back to a file that is being read, or exceeds the bounds.
+    /// Throws `KeywordError` for a deck or an included file that can't be opened, and for an
+    /// include that isn't understood, comes back to a file that is being read, or exceeds the
+    /// bounds.
     DeckIndex(const std::string& fileName, const Wanted& wanted, const DeckObserver& observer);
 
     /// The wanted keywords in the order in which they stand in the deck. Of a keyword that stands
@@ -84,11 +81,11 @@ public:
     const std::vector<KeywordPlace>& Keywords() const noexcept { return keywords_; }
 
     /// Where the deck ends.
-    const DeckLine& End() const noexcept { return end_; }
+    const FilePlace& End() const noexcept { return end_; }
 
 private:
     std::vector<KeywordPlace> keywords_;
-    DeckLine end_;
+    FilePlace end_;
 };
 
 } // namespace Orv::Kes::KesModel

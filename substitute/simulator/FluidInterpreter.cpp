@@ -1,6 +1,6 @@
 #include "FluidInterpreter.h"
 
-#include "DeckRecord.h"
+#include "KeywordRecord.h"
 
 #include <algorithm>
 #include <string>
@@ -15,6 +15,10 @@ using SimFluid::ICompositionalModel;
 using SimFluid::IDepthTable;
 using SimFluid::IFluidModels;
 using SimFluid::IInitialCondition;
+using Text::ItemCount;
+using Text::KeywordError;
+using Text::KeywordRecord;
+using Text::Quote;
 
 namespace {
 
@@ -61,7 +65,7 @@ double OrZero(const double* number) {
 }
 
 void CheckCount(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
-    DeckRecord record(place);
+    KeywordRecord record(place);
     const std::uint64_t count = record.ReadCount();
     if (count != fluid.n) {
         record.Fail(std::to_string(fluid.n) + ", the number of names under CNAMES",
@@ -70,11 +74,11 @@ void CheckCount(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
 }
 
 void CheckUnits(Fluid&, const KeywordPlace& place, const FluidKeyword&) {
-    DeckRecord(place).ReadWord({"METRIC", "FIELD"});
+    KeywordRecord(place).ReadWord({"METRIC", "FIELD"});
 }
 
 void CheckNumber(Fluid&, const KeywordPlace& place, const FluidKeyword&) {
-    DeckRecord(place).ReadNumbers({1, 1, "one number"}, IgnoreNumber);
+    KeywordRecord(place).ReadNumbers({1, 1, "one number"}, IgnoreNumber);
 }
 
 void ReadProperty(Fluid& fluid, const KeywordPlace& place, const FluidKeyword& keyword) {
@@ -84,11 +88,11 @@ void ReadProperty(Fluid& fluid, const KeywordPlace& place, const FluidKeyword& k
                 .setProperty(keyword.property, *number);
         }
     };
-    DeckRecord(place).ReadNumbers(OnePerComponent(fluid), set);
+    KeywordRecord(place).ReadNumbers(OnePerComponent(fluid), set);
 }
 
 void CheckProperty(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
-    DeckRecord(place).ReadNumbers(OnePerComponent(fluid), IgnoreNumber);
+    KeywordRecord(place).ReadNumbers(OnePerComponent(fluid), IgnoreNumber);
 }
 
 int ReadEquationOfStateCode(const KeywordPlace& place) {
@@ -104,7 +108,7 @@ int ReadEquationOfStateCode(const KeywordPlace& place) {
     for (const Equation& equation : equations) {
         words.emplace_back(equation.word);
     }
-    return equations[DeckRecord(place).ReadWord(words)].code;
+    return equations[KeywordRecord(place).ReadWord(words)].code;
 }
 
 void ReadEquationOfState(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
@@ -126,7 +130,7 @@ void ReadTriangle(const Fluid& fluid, const KeywordPlace& place, Take take) {
     const std::size_t most = fluid.n < 2 ? 0 : fluid.n * (fluid.n - 1) / 2;
     int row = 1;
     int column = 0;
-    DeckRecord(place).ReadNumbers(
+    KeywordRecord(place).ReadNumbers(
         {0, most, "at most one number for each pair of components (" + std::to_string(most) + ")"},
         [&](std::size_t, const double* number) {
             take(row, column, OrZero(number));
@@ -155,7 +159,7 @@ void UsePedersen(Fluid& fluid, const KeywordPlace&, const FluidKeyword&) {
 void ReadViscosityCoefficients(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
     constexpr std::size_t coefficients = 5;
     const std::string meaning = "five numbers or none";
-    DeckRecord record(place);
+    KeywordRecord record(place);
     const std::size_t count = record.ReadNumbers({0, coefficients, meaning}, IgnoreNumber);
     if (count != 0 && count != coefficients) {
         record.Fail(meaning, std::to_string(count));
@@ -173,10 +177,10 @@ IDepthTable& EmptyCompositionTable(Fluid& fluid) {
 void ReadComposition(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
     IDepthTable& table = EmptyCompositionTable(fluid);
     table.addRow(0.0);
-    DeckRecord(place).ReadNumbers(OnePerComponent(fluid),
-                                  [&](std::size_t index, const double* number) {
-                                      table.setValue(0, static_cast<int>(index), OrZero(number));
-                                  });
+    KeywordRecord(place).ReadNumbers(OnePerComponent(fluid),
+                                     [&](std::size_t index, const double* number) {
+                                         table.setValue(0, static_cast<int>(index), OrZero(number));
+                                     });
 }
 
 // Rows of a depth and one fraction for each component.
@@ -184,7 +188,7 @@ void ReadCompositionByDepth(Fluid& fluid, const KeywordPlace& place, const Fluid
     IDepthTable& table = EmptyCompositionTable(fluid);
     const std::size_t width = fluid.n + 1;
     const std::string meaning = "rows of a depth and " + std::to_string(fluid.n) + " fractions";
-    DeckRecord record(place);
+    KeywordRecord record(place);
     const std::size_t count = record.ReadNumbers(
         {width, mostTableNumbers, meaning}, [&](std::size_t index, const double* number) {
             const double value = OrZero(number);
@@ -287,20 +291,20 @@ const KeywordPlace* FindPlace(const DeckIndex& index, std::string_view keyword) 
 
 // A deck that was written for a fluid without components says so.
 bool SaysNoComponents(const DeckIndex& index) {
-    return std::ranges::any_of(std::initializer_list<std::string_view>{"NCOMPS", "COMPS"},
-                               [&](std::string_view keyword) {
-                                   const KeywordPlace* const place = FindPlace(index, keyword);
-                                   return place != nullptr && DeckRecord(*place).ReadCount() == 0;
-                               });
+    return std::ranges::any_of(
+        std::initializer_list<std::string_view>{"NCOMPS", "COMPS"}, [&](std::string_view keyword) {
+            const KeywordPlace* const place = FindPlace(index, keyword);
+            return place != nullptr && KeywordRecord(*place).ReadCount() == 0;
+        });
 }
 
 std::vector<std::string> ReadNames(const DeckIndex& index) {
     const std::string meaning = "the names of the components";
     const KeywordPlace* const place = FindPlace(index, "CNAMES");
     if (place == nullptr) {
-        throw DeckError(index.End(), "CNAMES", meaning, "no such keyword in the deck");
+        throw KeywordError(index.End(), "CNAMES", meaning, "no such keyword in the deck");
     }
-    DeckRecord record(*place);
+    KeywordRecord record(*place);
     std::vector<std::string> names = record.ReadNames(
         {0, mostComponents, meaning + ", at most " + std::to_string(mostComponents)});
     if (names.empty() && !SaysNoComponents(index)) {

@@ -32,7 +32,7 @@ std::optional<KnownKeyword> FindKnownKeyword(std::string_view keyword);
 /// each component gives them in that order; a defaulted number (2*) leaves the property unset. Of a
 /// keyword with several records, one for each region, the first counts.
 ///
-/// Throws `DeckError` for data that don't fit, and lets pass what the store throws.
+/// Throws `KeywordError` for data that don't fit, and lets pass what the store throws.
 void InterpretFluid(const DeckIndex& index, SimFluid::IFluidModels& models);
 
 } // namespace Orv::Kes::KesModel

@@ -12,6 +12,8 @@
 
 namespace Orv::Kes::KesModel {
 
+using Text::Quote;
+
 namespace {
 
 void Tell(Log::Severity severity, const std::string& text) {
@@ -24,7 +26,7 @@ void TellPassedOver(KeywordTracker& tracker, std::string_view keyword, const std
     const std::string name(keyword);
     if (tracker.addPassedOver(name)) {
         Tell(Log::DEBUG,
-             Describe(DeckLine{file, line}) + ": keyword " + Quote(name) + " is passed over.");
+             Describe(FilePlace{file, line}) + ": keyword " + Quote(name) + " is passed over.");
     }
 }
 

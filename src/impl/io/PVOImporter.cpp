@@ -30,6 +30,10 @@ using Kes::KesModel::KeywordTracker;
 using Kes::KesModel::Log;
 using Kes::SimFluid::IFluidModel;
 using Model::CompositionalFluid;
+using Text::blockSize;
+using Text::IsRegularFile;
+using Text::LineReader;
+using Text::OpenForReading;
 
 namespace {
 

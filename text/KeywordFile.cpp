@@ -1,4 +1,4 @@
-#include "DeckFile.h"
+#include "KeywordFile.h"
 
 #include <algorithm>
 #include <cstring>
@@ -7,15 +7,15 @@
 #include <stdexcept>
 #include <system_error>
 
-namespace Orv::Kes::KesModel {
+namespace Orv::Text {
 
 namespace {
 
 constexpr std::size_t blockSize = std::size_t{128} * 1024;
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-// A deck is read more than once and from the middle, which only a regular file allows. It also
-// keeps away from what never ends.
+// A keyword file is read more than once and from the middle, which only a regular file allows. It
+// also keeps away from what never ends.
 std::ifstream Open(const std::string& name) {
     std::error_code error;
     const auto status = std::filesystem::status(name, error);
@@ -37,13 +37,13 @@ std::ifstream Open(const std::string& name) {
 
 } // namespace
 
-DeckFile::DeckFile(const std::string& name) : name_(name), file_(Open(name)) {
+KeywordFile::KeywordFile(const std::string& name) : name_(name), file_(Open(name)) {
     if (Ahead().starts_with(byteOrderMark)) {
         Pass(byteOrderMark.size());
     }
 }
 
-void DeckFile::MoveTo(std::uint64_t offset, std::uint64_t line) {
+void KeywordFile::MoveTo(std::uint64_t offset, std::uint64_t line) {
     file_.clear();
     file_.seekg(static_cast<std::streamoff>(offset));
     begin_ = end_ = 0;
@@ -52,7 +52,7 @@ void DeckFile::MoveTo(std::uint64_t offset, std::uint64_t line) {
 }
 
 // Keeps what is ahead, in front of the buffer, and reads behind it.
-void DeckFile::ReadBlock() {
+void KeywordFile::ReadBlock() {
     const std::size_t kept = end_ - begin_;
     if (begin_ > 0) {
         std::memmove(buffer_.data(), buffer_.data() + begin_, kept);
@@ -69,4 +69,4 @@ void DeckFile::ReadBlock() {
     end_ = kept + static_cast<std::size_t>(file_.gcount());
 }
 
-} // namespace Orv::Kes::KesModel
+} // namespace Orv::Text

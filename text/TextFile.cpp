@@ -1,14 +1,12 @@
 #include "TextFile.h"
 
-#include "Messages.h"
-
 #include <algorithm>
 #include <cstring>
 #include <filesystem>
 #include <locale>
 #include <system_error>
 
-namespace Orv::FluidBench::Impl::IO {
+namespace Orv::Text {
 
 std::ofstream OpenForWriting(const std::string& fileName, std::span<char> buffer) {
     std::ofstream file;
@@ -17,15 +15,6 @@ std::ofstream OpenForWriting(const std::string& fileName, std::span<char> buffer
         file.rdbuf()->pubsetbuf(buffer.data(), static_cast<std::streamsize>(buffer.size()));
     }
     file.open(fileName, std::ios_base::out | std::ios_base::trunc);
-    return file;
-}
-
-std::ofstream OpenOrReport(const std::string& fileName, Common::ErrorReport& report,
-                           std::span<char> buffer) {
-    std::ofstream file = OpenForWriting(fileName, buffer);
-    if (!file.is_open()) {
-        report.Add(CantOpenForWriting(fileName));
-    }
     return file;
 }
 
@@ -128,4 +117,4 @@ std::string_view LineReader::Take(std::size_t length, std::size_t lineEnd) {
     return line;
 }
 
-} // namespace Orv::FluidBench::Impl::IO
+} // namespace Orv::Text

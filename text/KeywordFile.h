@@ -1,4 +1,4 @@
-// The text of one file of a deck, block by block.
+// The text of one keyword file, block by block.
 #pragma once
 
 #include <cstddef>
@@ -8,18 +8,18 @@
 #include <string_view>
 #include <vector>
 
-namespace Orv::Kes::KesModel {
+namespace Orv::Text {
 
 /// A position in a file that moves forward, with the text behind it. What is ahead lies in one
 /// piece of memory, as much of it as was asked for; what was passed is forgotten, so that the
 /// object's size depends on the longest piece that somebody asked for, not on the file's.
 ///
 /// The object owns its open file. One thread at a time.
-class DeckFile {
+class KeywordFile {
 public:
     /// Stands at the first character of the file, behind a byte order mark. Throws
     /// `std::runtime_error`, with what was found in place of a file to read, where there is none.
-    explicit DeckFile(const std::string& name);
+    explicit KeywordFile(const std::string& name);
 
     const std::string& Name() const noexcept { return name_; }
     /// Bytes ahead of the position.
@@ -67,4 +67,4 @@ private:
     std::uint64_t line_ = 1;
 };
 
-} // namespace Orv::Kes::KesModel
+} // namespace Orv::Text

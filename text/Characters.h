@@ -1,7 +1,7 @@
-// The letters and digits of a deck, in any locale.
+// The letters and digits of a text, in any locale.
 #pragma once
 
-namespace Orv::Kes::KesModel {
+namespace Orv::Text {
 
 constexpr bool IsSmallLetter(char c) noexcept {
     return c >= 'a' && c <= 'z';
@@ -13,4 +13,4 @@ constexpr bool IsDigit(char c) noexcept {
     return c >= '0' && c <= '9';
 }
 
-} // namespace Orv::Kes::KesModel
+} // namespace Orv::Text

@@ -1,9 +1,8 @@
 // The data of one keyword.
 #pragma once
 
-#include "DeckError.h"
-#include "DeckIndex.h"
-#include "DeckLexer.h"
+#include "KeywordError.h"
+#include "KeywordLexer.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -11,7 +10,14 @@
 #include <string>
 #include <vector>
 
-namespace Orv::Kes::KesModel {
+namespace Orv::Text {
+
+/// A keyword and the position right behind it.
+struct KeywordPlace {
+    std::string keyword;
+    FilePlace line;
+    std::uint64_t offset = 0;
+};
 
 /// How many items a record may have, and what they are altogether, for a message.
 struct ItemCount {
@@ -21,12 +27,12 @@ struct ItemCount {
 };
 
 /// Reads the record behind a keyword, from the file, when it is asked to. Holds one block of the
-/// file. Every operation reads the record from where the last one left it; each throws `DeckError`
-/// when the record isn't what it expects.
-class DeckRecord {
+/// file. Every operation reads the record from where the last one left it; each throws
+/// `KeywordError` when the record isn't what it expects.
+class KeywordRecord {
 public:
-    /// Throws `DeckError` when the file can't be opened any more.
-    explicit DeckRecord(const KeywordPlace& place);
+    /// Throws `KeywordError` when the file can't be opened any more.
+    explicit KeywordRecord(const KeywordPlace& place);
 
     /// Takes a number with its index; null for a defaulted one.
     using TakeNumber = std::function<void(std::size_t index, const double* number)>;
@@ -46,15 +52,15 @@ public:
     /// index. The words are in capitals.
     std::size_t ReadWord(const std::vector<std::string>& words);
 
-    /// Throws a `DeckError` for this keyword, at the line that was read last.
+    /// Throws a `KeywordError` for this keyword, at the line that was read last.
     [[noreturn]] void Fail(const std::string& expected, const std::string& found) const;
 
 private:
-    DeckToken NextItem(const std::string& meaning);
+    Token NextItem(const std::string& meaning);
 
     std::string keyword_;
-    DeckLexer lexer_;
+    KeywordLexer lexer_;
     std::uint64_t line_;
 };
 
-} // namespace Orv::Kes::KesModel
+} // namespace Orv::Text

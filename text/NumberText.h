@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-namespace Orv::FluidBench::Impl::IO {
+namespace Orv::Text {
 
 /// How a floating-point number is written: `general` is printf's %.*g, `fixed` its %.*f and
 /// `scientific` its %.*e, each with `precision` as the asterisk.
@@ -46,4 +46,13 @@ double ParseLeadingDecimal(std::string_view text) noexcept;
 /// large for a double.
 std::optional<double> ExtractDecimal(std::string_view text) noexcept;
 
-} // namespace Orv::FluidBench::Impl::IO
+/// Gives the number that `text` is from its first character to its last: decimal digits with an
+/// optional sign, point and exponent, whose letter is E or D in either case. False for anything
+/// else: not-a-numbers, infinities and numbers beyond the range of a double are no numbers of
+/// a keyword file.
+bool ParseNumber(std::string_view text, double& number);
+
+/// The whole number that `text` is, without a sign. Nothing for anything else.
+std::optional<std::uint64_t> ParseCount(std::string_view text) noexcept;
+
+} // namespace Orv::Text

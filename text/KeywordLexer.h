@@ -1,22 +1,23 @@
-// The words of a deck: what stands between blanks, outside of comments.
+// The words of a keyword file: what stands between blanks, outside of comments.
 #pragma once
 
-#include "DeckFile.h"
+#include "KeywordFile.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-namespace Orv::Kes::KesModel {
+namespace Orv::Text {
 
-struct DeckToken {
+struct Token {
     enum class Kind {
         Word,      ///< what has no blanks, slashes and quotes around it: 16.04, 2*, 3*0.5, PR
         Quoted,    ///< text in single or double quotes, given without them
         OpenQuote, ///< a quote that isn't closed on its line; the text behind it comes next
-        TooLong, ///< the first part of a word beyond `DeckLexer::longestItem`; the rest comes next
-        Slash,   ///< outside of quotes: the end of a record
+        TooLong,   ///< the first part of a word beyond `KeywordLexer::longestItem`; the rest comes
+                   ///< next
+        Slash,     ///< outside of quotes: the end of a record
         LineEnd,
         FileEnd
     };
@@ -26,12 +27,12 @@ struct DeckToken {
 };
 
 /// The token as "found" in a message.
-std::string Describe(const DeckToken& token);
+std::string Describe(const Token& token);
 
 /// The word in capitals, as keywords are.
 std::string Capitals(std::string_view word);
 
-/// Takes the text of one file of a deck apart.
+/// Takes the text of one keyword file apart.
 ///
 ///     BIC -- comment        Word at the head of a line, LineEnd
 ///     3*0.05 'a/b'/ rest    Word, Quoted, Slash, and so on with the rest
@@ -43,20 +44,20 @@ std::string Capitals(std::string_view word);
 /// a quote that somebody forgot to close doesn't join two names. Quoted text ends on its line.
 ///
 /// The lexer holds a block of the file, never the file. One thread at a time.
-class DeckLexer {
+class KeywordLexer {
 public:
     static constexpr std::size_t longestItem = 16'384;
 
-    /// Begins with the first line of the file. Throws as `DeckFile`'s constructor does.
-    explicit DeckLexer(const std::string& fileName) : file_(fileName) {}
+    /// Begins with the first line of the file. Throws as `KeywordFile`'s constructor does.
+    explicit KeywordLexer(const std::string& fileName) : file_(fileName) {}
 
-    const DeckFile& File() const noexcept { return file_; }
+    const KeywordFile& File() const noexcept { return file_; }
 
     /// Goes on behind a token: where `File()` had this offset and line.
     void MoveTo(std::uint64_t offset, std::uint64_t line);
 
     /// The next token. Its text is valid until the next call of an operation that isn't const.
-    DeckToken Next();
+    Token Next();
 
     /// Passes the rest of the line, with its end.
     void SkipLine();
@@ -70,14 +71,14 @@ public:
     void SkipPlainText();
 
 private:
-    DeckToken ReadWord(bool isAtHeadOfLine);
-    DeckToken ReadQuoted(bool isAtHeadOfLine);
+    Token ReadWord(bool isAtHeadOfLine);
+    Token ReadQuoted(bool isAtHeadOfLine);
     std::size_t FindClosingQuote();
     std::string_view AtLeastAhead(std::size_t count);
     void Pass(std::size_t count) noexcept;
     void PassNewline() noexcept;
 
-    DeckFile file_;
+    KeywordFile file_;
     bool isAtHeadOfLine_ = true;
     // What was found out before: ahead of this offset there is no plain text, and no single or
     // double quote closes.
@@ -85,4 +86,4 @@ private:
     std::uint64_t openQuotesEnd_[2] = {0, 0};
 };
 
-} // namespace Orv::Kes::KesModel
+} // namespace Orv::Text

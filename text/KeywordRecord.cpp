@@ -1,16 +1,16 @@
-#include "DeckRecord.h"
+#include "KeywordRecord.h"
 
-#include "DeckNumber.h"
+#include "NumberText.h"
 
 #include <algorithm>
 #include <optional>
 #include <stdexcept>
 
-namespace Orv::Kes::KesModel {
+namespace Orv::Text {
 
 namespace {
 
-using Kind = DeckToken::Kind;
+using Kind = Token::Kind;
 
 // One item of a record of numbers: so many times the number, or the default.
 struct RepeatedNumber {
@@ -34,7 +34,7 @@ bool ParseRepeated(std::string_view text, RepeatedNumber& repeated) {
     return repeated.count > 0 && (repeated.isDefault || ParseNumber(value, repeated.number));
 }
 
-bool IsName(const DeckToken& item) {
+bool IsName(const Token& item) {
     double number = 0.0;
     const bool isBareName = item.kind == Kind::Word &&
                             item.text.find_first_of("*'\"") == std::string_view::npos &&
@@ -42,24 +42,25 @@ bool IsName(const DeckToken& item) {
     return !item.text.empty() && (item.kind == Kind::Quoted || isBareName);
 }
 
-DeckLexer Open(const KeywordPlace& place) {
+KeywordLexer Open(const KeywordPlace& place) {
     try {
-        return DeckLexer(place.line.file);
+        return KeywordLexer(place.line.file);
     } catch (const std::runtime_error& error) {
-        throw DeckError(place.line, place.keyword, "the file that was there before", error.what());
+        throw KeywordError(place.line, place.keyword, "the file that was there before",
+                           error.what());
     }
 }
 
 } // namespace
 
-DeckRecord::DeckRecord(const KeywordPlace& place)
+KeywordRecord::KeywordRecord(const KeywordPlace& place)
     : keyword_(place.keyword), lexer_(Open(place)), line_(place.line.line) {
     lexer_.MoveTo(place.offset, place.line.line);
 }
 
-std::size_t DeckRecord::ReadNumbers(const ItemCount& count, const TakeNumber& take) {
+std::size_t KeywordRecord::ReadNumbers(const ItemCount& count, const TakeNumber& take) {
     std::size_t index = 0;
-    for (DeckToken item = NextItem(count.meaning); item.kind != Kind::Slash;
+    for (Token item = NextItem(count.meaning); item.kind != Kind::Slash;
          item = NextItem(count.meaning)) {
         RepeatedNumber repeated;
         if (item.kind != Kind::Word || !ParseRepeated(item.text, repeated)) {
@@ -78,10 +79,10 @@ std::size_t DeckRecord::ReadNumbers(const ItemCount& count, const TakeNumber& ta
     return index;
 }
 
-std::uint64_t DeckRecord::ReadCount() {
+std::uint64_t KeywordRecord::ReadCount() {
     const std::string expected = "one whole number";
     std::optional<std::uint64_t> number;
-    for (DeckToken item = NextItem(expected); item.kind != Kind::Slash; item = NextItem(expected)) {
+    for (Token item = NextItem(expected); item.kind != Kind::Slash; item = NextItem(expected)) {
         if (number) {
             Fail(expected, Describe(item) + " behind it");
         }
@@ -96,9 +97,9 @@ std::uint64_t DeckRecord::ReadCount() {
     return *number;
 }
 
-std::vector<std::string> DeckRecord::ReadNames(const ItemCount& count) {
+std::vector<std::string> KeywordRecord::ReadNames(const ItemCount& count) {
     std::vector<std::string> names;
-    for (DeckToken item = NextItem(count.meaning); item.kind != Kind::Slash;
+    for (Token item = NextItem(count.meaning); item.kind != Kind::Slash;
          item = NextItem(count.meaning)) {
         if (!IsName(item)) {
             Fail("a name", Describe(item));
@@ -116,7 +117,7 @@ std::vector<std::string> DeckRecord::ReadNames(const ItemCount& count) {
     return names;
 }
 
-std::size_t DeckRecord::ReadWord(const std::vector<std::string>& words) {
+std::size_t KeywordRecord::ReadWord(const std::vector<std::string>& words) {
     std::string expected = "one of the words";
     for (const std::string& word : words) {
         expected += ' ' + word;
@@ -129,15 +130,15 @@ std::size_t DeckRecord::ReadWord(const std::vector<std::string>& words) {
     return static_cast<std::size_t>(word - words.begin());
 }
 
-void DeckRecord::Fail(const std::string& expected, const std::string& found) const {
-    throw DeckError({lexer_.File().Name(), line_}, keyword_, expected, found);
+void KeywordRecord::Fail(const std::string& expected, const std::string& found) const {
+    throw KeywordError({lexer_.File().Name(), line_}, keyword_, expected, found);
 }
 
 // The next item of a record that should hold `meaning`, or its slash.
-DeckToken DeckRecord::NextItem(const std::string& meaning) {
+Token KeywordRecord::NextItem(const std::string& meaning) {
     for (;;) {
         line_ = lexer_.File().Line();
-        const DeckToken token = lexer_.Next();
+        const Token token = lexer_.Next();
         if (token.kind == Kind::FileEnd) {
             Fail("'/' behind " + meaning, Describe(token));
         }
@@ -147,4 +148,4 @@ DeckToken DeckRecord::NextItem(const std::string& meaning) {
     }
 }
 
-} // namespace Orv::Kes::KesModel
+} // namespace Orv::Text

@@ -1,8 +1,6 @@
 // Opening text files and reading their lines: one way for every format of the library.
 #pragma once
 
-#include "FluidBench/Common/ErrorReport.h"
-
 #include <cstddef>
 #include <fstream>
 #include <limits>
@@ -11,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace Orv::FluidBench::Impl::IO {
+namespace Orv::Text {
 
 /// How much large files are read and written at once.
 inline constexpr std::size_t blockSize = std::size_t{64} * 1024;
@@ -22,11 +20,6 @@ inline constexpr std::size_t blockSize = std::size_t{64} * 1024;
 /// A writer of large files gives a buffer of `blockSize`, which makes fewer and larger writes of
 /// its text than a stream's own; the buffer has to outlive the stream.
 std::ofstream OpenForWriting(const std::string& fileName, std::span<char> buffer = {});
-
-/// Opens a text file for writing as `OpenForWriting` does. Where it can't be written, the report
-/// gets message 3369 with its name, and there is nothing more to do.
-std::ofstream OpenOrReport(const std::string& fileName, Common::ErrorReport& report,
-                           std::span<char> buffer = {});
 
 /// Whether there is a regular file of that name: not a folder, and not a pipe or a device, which
 /// may never end or never begin.
@@ -77,4 +70,4 @@ private:
     bool isDone_ = false;
 };
 
-} // namespace Orv::FluidBench::Impl::IO
+} // namespace Orv::Text

@@ -1,16 +1,16 @@
-#include "DeckLexer.h"
+#include "KeywordLexer.h"
 
-#include "DeckCharacters.h"
-#include "DeckError.h"
+#include "Characters.h"
+#include "KeywordError.h"
 
 #include <algorithm>
 #include <array>
 
-namespace Orv::Kes::KesModel {
+namespace Orv::Text {
 
 namespace {
 
-using Kind = DeckToken::Kind;
+using Kind = Token::Kind;
 
 constexpr std::size_t veryLongLine = std::size_t{64} * 1024;
 
@@ -64,7 +64,7 @@ bool Separates(std::string_view rest) noexcept {
 
 } // namespace
 
-std::string Describe(const DeckToken& token) {
+std::string Describe(const Token& token) {
     switch (token.kind) {
     case Kind::Word:
     case Kind::Quoted:
@@ -72,7 +72,7 @@ std::string Describe(const DeckToken& token) {
     case Kind::OpenQuote:
         return "a quote that isn't closed on its line";
     case Kind::TooLong:
-        return "an item of more than " + std::to_string(DeckLexer::longestItem) + " characters";
+        return "an item of more than " + std::to_string(KeywordLexer::longestItem) + " characters";
     case Kind::Slash:
         return "'/'";
     case Kind::LineEnd:
@@ -91,14 +91,14 @@ std::string Capitals(std::string_view word) {
     return capitals;
 }
 
-void DeckLexer::MoveTo(std::uint64_t offset, std::uint64_t line) {
+void KeywordLexer::MoveTo(std::uint64_t offset, std::uint64_t line) {
     file_.MoveTo(offset, line);
     isAtHeadOfLine_ = false;
     plainTextBegins_ = 0;
     openQuotesEnd_[0] = openQuotesEnd_[1] = 0;
 }
 
-DeckToken DeckLexer::Next() {
+Token KeywordLexer::Next() {
     for (;;) {
         const std::string_view ahead = AtLeastAhead(2);
         if (ahead.empty()) {
@@ -129,7 +129,7 @@ DeckToken DeckLexer::Next() {
 
 // A word ends in front of a blank, a slash or a comment, and behind the asterisk of a repeat count
 // whose value is quoted.
-DeckToken DeckLexer::ReadWord(bool isAtHeadOfLine) {
+Token KeywordLexer::ReadWord(bool isAtHeadOfLine) {
     std::string_view ahead = file_.Ahead();
     std::size_t length = 0;
     while (length <= longestItem) {
@@ -163,7 +163,7 @@ DeckToken DeckLexer::ReadWord(bool isAtHeadOfLine) {
     return {isTooLong ? Kind::TooLong : Kind::Word, ahead.substr(0, length), isAtHeadOfLine};
 }
 
-DeckToken DeckLexer::ReadQuoted(bool isAtHeadOfLine) {
+Token KeywordLexer::ReadQuoted(bool isAtHeadOfLine) {
     const std::size_t close = FindClosingQuote();
     const std::string_view ahead = file_.Ahead();
     if (close == 0) {
@@ -176,7 +176,7 @@ DeckToken DeckLexer::ReadQuoted(bool isAtHeadOfLine) {
 
 // Where the quote ahead is closed, or 0. Text of quotes alone is searched once and not from each of
 // them anew: where one search ended in vain, those that begin ahead of that place do too.
-std::size_t DeckLexer::FindClosingQuote() {
+std::size_t KeywordLexer::FindClosingQuote() {
     std::string_view ahead = file_.Ahead();
     const char quote = ahead[0];
     std::uint64_t& openQuotesEnd = openQuotesEnd_[quote == '"' ? 1 : 0];
@@ -205,7 +205,7 @@ std::size_t DeckLexer::FindClosingQuote() {
     return 0;
 }
 
-void DeckLexer::SkipLine() {
+void KeywordLexer::SkipLine() {
     for (;;) {
         const std::string_view ahead = file_.Ahead();
         const std::size_t newline = ahead.find('\n');
@@ -221,13 +221,13 @@ void DeckLexer::SkipLine() {
     }
 }
 
-void DeckLexer::SkipCommentLines() {
+void KeywordLexer::SkipCommentLines() {
     while (AtLeastAhead(2).starts_with("--")) {
         SkipLine();
     }
 }
 
-void DeckLexer::SkipPlainText() {
+void KeywordLexer::SkipPlainText() {
     while (file_.Offset() >= plainTextBegins_) {
         std::string_view ahead = file_.Ahead();
         if (ahead.empty() || (isAtHeadOfLine_ && IsLetter(ahead[0]))) {
@@ -264,7 +264,7 @@ void DeckLexer::SkipPlainText() {
 }
 
 // That many characters ahead, unless the file ends before.
-std::string_view DeckLexer::AtLeastAhead(std::size_t count) {
+std::string_view KeywordLexer::AtLeastAhead(std::size_t count) {
     std::string_view ahead = file_.Ahead();
     while (ahead.size() < count) {
         const std::size_t before = ahead.size();
@@ -276,14 +276,14 @@ std::string_view DeckLexer::AtLeastAhead(std::size_t count) {
     return ahead;
 }
 
-void DeckLexer::Pass(std::size_t count) noexcept {
+void KeywordLexer::Pass(std::size_t count) noexcept {
     file_.Pass(count);
     isAtHeadOfLine_ = isAtHeadOfLine_ && count == 0;
 }
 
-void DeckLexer::PassNewline() noexcept {
+void KeywordLexer::PassNewline() noexcept {
     file_.PassNewline();
     isAtHeadOfLine_ = true;
 }
 
-} // namespace Orv::Kes::KesModel
+} // namespace Orv::Text

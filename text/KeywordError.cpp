@@ -1,8 +1,8 @@
-#include "DeckError.h"
+#include "KeywordError.h"
 
 #include <algorithm>
 
-namespace Orv::Kes::KesModel {
+namespace Orv::Text {
 
 namespace {
 
@@ -15,7 +15,7 @@ constexpr bool ContinuesCharacter(char c) noexcept {
 
 } // namespace
 
-std::string Describe(const DeckLine& place) {
+std::string Describe(const FilePlace& place) {
     return place.file + ", line " + std::to_string(place.line);
 }
 
@@ -35,9 +35,9 @@ std::string Quote(std::string_view text) {
     return quoted + (isCut ? "...'" : "'");
 }
 
-DeckError::DeckError(const DeckLine& place, std::string_view keyword, const std::string& expected,
-                     const std::string& found)
+KeywordError::KeywordError(const FilePlace& place, std::string_view keyword,
+                           const std::string& expected, const std::string& found)
     : std::runtime_error(Describe(place) + ", keyword " + std::string(keyword) + ": expected " +
                          expected + ", found " + found + ".") {}
 
-} // namespace Orv::Kes::KesModel
+} // namespace Orv::Text

@@ -1,12 +1,15 @@
 #include "NumberText.h"
 
+#include "Characters.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <iterator>
 #include <limits>
+#include <system_error>
 
-namespace Orv::FluidBench::Impl::IO {
+namespace Orv::Text {
 
 namespace {
 
@@ -129,9 +132,6 @@ void WritePadded(std::ostream& out, std::string_view number) {
 constexpr bool IsSpace(char c) noexcept {
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
-constexpr bool IsDigit(char c) noexcept {
-    return c >= '0' && c <= '9';
-}
 constexpr bool IsHexadecimalDigit(char c) noexcept {
     return IsDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }
@@ -237,6 +237,24 @@ Magnitude ReadAsAtof(std::string_view text) noexcept {
     return hasSecondSign ? Magnitude() : ReadMagnitude(text, std::chars_format::general);
 }
 
+template <typename Number>
+bool ParseWhole(std::string_view text, Number& number) noexcept {
+    const char* const end = text.data() + text.size();
+    const auto [behind, error] = std::from_chars(text.data(), end, number);
+    return error == std::errc() && behind == end;
+}
+
+// Programs of a certain age write the exponent of a double-precision number with a D.
+bool ParseWithD(std::string_view text, double& number) {
+    const std::size_t letter = text.find_first_of("dD");
+    if (letter == std::string_view::npos) {
+        return false;
+    }
+    std::string withE(text);
+    withE[letter] = 'E';
+    return ParseWhole(withE, number);
+}
+
 } // namespace
 
 void AppendNumber(std::string& text, double value, NumberFormat format, std::size_t width) {
@@ -305,4 +323,23 @@ std::optional<double> ExtractDecimal(std::string_view text) noexcept {
     return isNegative ? -number.value : number.value;
 }
 
-} // namespace Orv::FluidBench::Impl::IO
+bool ParseNumber(std::string_view text, double& number) {
+    if (text.starts_with('+')) {
+        text.remove_prefix(1);
+        if (text.starts_with('-')) {
+            return false;
+        }
+    }
+    // The words for infinity and not-a-number have no digit ahead of their letters.
+    const auto* const first =
+        std::ranges::find_if_not(text, [](char c) { return c == '-' || c == '.'; });
+    return first != text.end() && IsDigit(*first) &&
+           (ParseWhole(text, number) || ParseWithD(text, number));
+}
+
+std::optional<std::uint64_t> ParseCount(std::string_view text) noexcept {
+    std::uint64_t count = 0;
+    return ParseWhole(text, count) ? std::optional(count) : std::nullopt;
+}
+
+} // namespace Orv::Text

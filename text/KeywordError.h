@@ -1,0 +1,32 @@
+// What is wrong with a keyword file, and where.
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace Orv::Text {
+
+/// A line of a file; lines count from 1.
+struct FilePlace {
+    std::string file;
+    std::uint64_t line = 0;
+};
+
+/// "FILE, line N" for a message.
+std::string Describe(const FilePlace& place);
+
+/// Text of a file in quotes, fit for a message: cut when it is long, and without characters that a
+/// terminal would obey.
+std::string Quote(std::string_view text);
+
+/// A keyword file that can't be read. `what()` is one sentence: file, line, keyword, what was
+/// expected there and what was found.
+class KeywordError : public std::runtime_error {
+public:
+    KeywordError(const FilePlace& place, std::string_view keyword, const std::string& expected,
+                 const std::string& found);
+};
+
+} // namespace Orv::Text
