@@ -17,16 +17,18 @@ struct FilePlace {
 /// "FILE, line N" for a message.
 std::string Describe(const FilePlace& place);
 
-/// Text of a file in quotes, fit for a message: cut when it is long, and without characters that a
-/// terminal would obey.
-std::string Quote(std::string_view text);
-
 /// A keyword file that can't be read. `what()` is one sentence: file, line, keyword, what was
 /// expected there and what was found.
 class KeywordError : public std::runtime_error {
 public:
     KeywordError(const FilePlace& place, std::string_view keyword, const std::string& expected,
                  const std::string& found);
+};
+
+/// A file whose reading failed before its end. `what()` is one sentence with file and line.
+class ReadFailed : public std::runtime_error {
+public:
+    explicit ReadFailed(const FilePlace& place);
 };
 
 } // namespace Orv::Text

@@ -2,6 +2,7 @@
 
 #include "Characters.h"
 #include "KeywordError.h"
+#include "Quote.h"
 
 #include <algorithm>
 #include <array>

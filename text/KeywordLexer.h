@@ -50,6 +50,8 @@ public:
 
     /// Begins with the first line of the file. Throws as `KeywordFile`'s constructor does.
     explicit KeywordLexer(const std::string& fileName) : file_(fileName) {}
+    /// Begins with the first line of the stream, which outlives the object.
+    KeywordLexer(std::istream& stream, const std::string& name) : file_(stream, name) {}
 
     const KeywordFile& File() const noexcept { return file_; }
 

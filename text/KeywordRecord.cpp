@@ -1,6 +1,7 @@
 #include "KeywordRecord.h"
 
 #include "NumberText.h"
+#include "Quote.h"
 
 #include <algorithm>
 #include <optional>

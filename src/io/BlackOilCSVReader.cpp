@@ -13,6 +13,7 @@
 #include "io/BlackOilExportFileWriter.h"
 
 #include "FluidBench/Common/Units.h"
+#include "LineReader.h"
 #include "NumberText.h"
 #include "TextFile.h"
 
@@ -27,6 +28,7 @@ using Common::Units;
 using Model::BlackOilDataRecords;
 using Model::BlackOilTable;
 using Text::LineReader;
+using Text::OpenForReading;
 using Text::ParseAsAtof;
 
 namespace {
@@ -89,7 +91,11 @@ BlackOilDataRecords ReadTable(LineReader& lines, TableKind kind) {
 
 BlackOilTable BlackOilExportFileWriter::GetTableFromCSVFile(const std::string& fileName) const {
     BlackOilTable table;
-    LineReader lines(fileName);
+    std::ifstream file = OpenForReading(fileName);
+    if (!file.is_open()) {
+        return table;
+    }
+    LineReader lines(file);
     std::string_view line;
     while (lines.Next(line)) {
         const std::size_t comma = line.find(',');

@@ -4,6 +4,7 @@
 #include "FluidBench/Common/Units.h"
 #include "FluidBench/Experiments/Stage.h"
 #include "FluidBench/Model/ComponentLibrary.h"
+#include "LineReader.h"
 #include "NumberText.h"
 #include "TextFile.h"
 
@@ -27,6 +28,7 @@ using Model::CompositionalFluid;
 using Model::FluidComponent;
 using Text::ExtractDecimal;
 using Text::LineReader;
+using Text::OpenForReading;
 
 namespace {
 
@@ -195,16 +197,20 @@ bool DFAReader::ImportData(std::string fileName, Data& data) {
 }
 
 bool DFAReader::CacheFileContent(std::string fileName, std::vector<std::string>& lines) const {
-    LineReader file(fileName);
+    std::ifstream file = OpenForReading(fileName);
+    if (!file.is_open()) {
+        return false;
+    }
+    LineReader reader(file);
     std::string_view line;
-    while (file.Next(line)) {
+    while (reader.Next(line)) {
         // What can be neither a row nor a mark of the header isn't kept: a large file of something
         // else would take many times its own size.
         if (HasQuotesOfRow(line) || line.find("HEADER") != std::string_view::npos) {
             lines.emplace_back(line);
         }
     }
-    return file.IsOpen();
+    return !reader.HasFailed();
 }
 
 bool DFAReader::ExtractData(std::vector<std::string>& lines,

@@ -8,6 +8,7 @@
 namespace Orv::FluidBench::Impl::IO {
 
 using Common::CommonPlottingObject;
+using Text::OpenForReading;
 using Text::OpenForWriting;
 
 namespace {
@@ -28,11 +29,12 @@ const std::string& PhaseEnvelopeFile::GetFileName() const noexcept {
 
 bool PhaseEnvelopeFile::ReadEnvelopes() {
     plots_.clear();
-    EnvelopeLines lines(fileName_);
-    if (!lines.IsOpen()) {
+    std::ifstream file = OpenForReading(fileName_);
+    if (!file.is_open()) {
         lastError_ = cantOpen;
         return false;
     }
+    EnvelopeLines lines(file);
     const auto separator = lines.Separator();
     return separator && PhaseEnvelopeParser(lines, *separator, plots_, lastError_).Run();
 }

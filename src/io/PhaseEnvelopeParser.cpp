@@ -57,7 +57,7 @@ Line ToLine(const PTline& line) {
 
 } // namespace
 
-EnvelopeLines::EnvelopeLines(const std::string& fileName) : reader_(fileName, longestLine) {
+EnvelopeLines::EnvelopeLines(std::istream& text) : reader_(text, longestLine) {
     std::string_view line;
     while (headSize_ < head_.size() && reader_.Next(line)) {
         head_[headSize_++] = line;

@@ -3,7 +3,7 @@
 
 #include "FluidBench/Common/CommonPlottingObject.h"
 #include "FluidBench/Common/PTline.h"
-#include "TextFile.h"
+#include "LineReader.h"
 
 #include <array>
 #include <cstddef>
@@ -18,13 +18,11 @@ namespace Orv::FluidBench::Impl::IO {
 /// letter line, which tells the separator of the whole file, and of the others one at a time.
 class EnvelopeLines {
 public:
-    /// Opens the file and puts the cursor on its first line. A line of more than 499 characters is
-    /// cut there and is the last.
-    explicit EnvelopeLines(const std::string& fileName);
+    /// Puts the cursor on the first line of the text, whose stream outlives the object. A line of
+    /// more than 499 characters is cut there and is the last.
+    explicit EnvelopeLines(std::istream& text);
     EnvelopeLines(const EnvelopeLines&) = delete; // the cursor points into the object
     EnvelopeLines& operator=(const EnvelopeLines&) = delete;
-
-    bool IsOpen() const { return reader_.IsOpen(); }
 
     /// The second character of the first letter line, if that is a comma or a tab.
     std::optional<char> Separator() const;

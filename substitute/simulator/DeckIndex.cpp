@@ -3,6 +3,7 @@
 #include "Characters.h"
 #include "KeywordLexer.h"
 #include "NumberText.h"
+#include "Quote.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,6 +1,7 @@
 #include "FluidInterpreter.h"
 
 #include "KeywordRecord.h"
+#include "Quote.h"
 
 #include <algorithm>
 #include <string>

@@ -6,6 +6,7 @@
 #include "Kes/KesModel/IKeywordValidator.h"
 #include "Kes/KesModel/KeywordTracker.h"
 #include "Kes/KesModel/Log.h"
+#include "Quote.h"
 
 #include <exception>
 #include <string>

@@ -8,6 +8,7 @@
 #include "Kes/KesModel/KesFluidModel.h"
 #include "Kes/KesModel/KeywordTracker.h"
 #include "Kes/KesModel/Log.h"
+#include "LineReader.h"
 #include "Messages.h"
 #include "PVOCompositionalModelAdaptor.h"
 #include "PVOFluidModelsAdaptor.h"
@@ -137,7 +138,8 @@ void PVOImporter::SetLoggerSeverity() const {
 //
 // The words count wherever they stand in a line, also in a comment. Without either, it is field.
 pvtEnumPVOUnitSystemType PVOImporter::DetectUnitSystem() const {
-    LineReader lines(fileName, longestScannedLine, LineReader::BehindCut::NextLine);
+    std::ifstream file = OpenForReading(fileName);
+    LineReader lines(file, longestScannedLine, LineReader::BehindCut::NextLine);
     std::string previous;
     std::string_view line;
     while (lines.Next(line)) {

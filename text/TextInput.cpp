@@ -1,0 +1,77 @@
+#include "TextInput.h"
+
+#include "TextFile.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace Orv::Text {
+
+namespace {
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+// Text for Latin letters has a zero in every other byte of UTF-16; no other text has zeros at all.
+bool LooksLikeUtf16(std::string_view text) {
+    constexpr std::size_t enough = 64;
+    if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")) {
+        return true;
+    }
+    const std::string_view head = text.substr(0, enough);
+    const auto zeros = static_cast<std::size_t>(std::ranges::count(head, '\0'));
+    return head.size() >= 4 && 3 * zeros > head.size() && 3 * zeros < 2 * head.size();
+}
+
+TextKind KindOf(std::string_view text) {
+    if (LooksLikeUtf16(text)) {
+        return TextKind::Utf16;
+    }
+    const bool hasOddLineEnds =
+        text.find('\n') == std::string_view::npos &&
+        text.substr(0, text.size() - 1).find('\r') != std::string_view::npos;
+    return !text.empty() && hasOddLineEnds ? TextKind::CarriageReturns : TextKind::Plain;
+}
+
+} // namespace
+
+void TextInput::MoveTo(std::uint64_t offset) {
+    stream_->clear();
+    stream_->seekg(static_cast<std::streamoff>(offset));
+    begin_ = end_ = 0;
+    offsetOfBuffer_ = offset;
+    hasBegun_ = true;
+}
+
+TextKind TextInput::Kind() {
+    Ahead();
+    return kind_;
+}
+
+// Keeps what is ahead, in front of the buffer, and reads behind it.
+void TextInput::ReadBlock() {
+    const std::size_t kept = end_ - begin_;
+    if (begin_ > 0) {
+        std::memmove(buffer_.data(), buffer_.data() + begin_, kept);
+        offsetOfBuffer_ += begin_;
+        begin_ = 0;
+        end_ = kept;
+    }
+    if (!stream_->good()) {
+        return;
+    }
+    if (buffer_.size() < kept + blockSize) {
+        buffer_.resize(std::max(2 * blockSize, 2 * buffer_.size()));
+    }
+    stream_->read(buffer_.data() + kept, static_cast<std::streamsize>(buffer_.size() - kept));
+    end_ = kept + static_cast<std::size_t>(stream_->gcount());
+    if (!hasBegun_) {
+        hasBegun_ = true;
+        const std::string_view head(buffer_.data(), end_);
+        kind_ = KindOf(head);
+        if (head.starts_with(byteOrderMark)) {
+            begin_ = byteOrderMark.size();
+        }
+    }
+}
+
+} // namespace Orv::Text
