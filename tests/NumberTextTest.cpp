@@ -143,3 +143,68 @@ TEST(NumberText, ExtractsWhatAStreamExtracts) {
         }
     }
 }
+
+// Ties go to the even digit, a carry may lengthen the number, and from 2^64 on, or with many digits
+// behind a tiny number, another way of writing takes over.
+TEST(NumberText, WritesTheNearestDecimal) {
+    constexpr auto fixed = std::chars_format::fixed;
+    constexpr auto general = std::chars_format::general;
+    constexpr auto scientific = std::chars_format::scientific;
+    const struct {
+        double value;
+        NumberFormat format;
+        const char* text;
+    } cases[] = {
+        {0.125, {fixed, 2}, "0.12"},
+        {0.375, {fixed, 2}, "0.38"},
+        {-9.9999999951, {fixed, 8}, "-10.00000000"},
+        {0x1p-1074, {fixed, 16}, "0.0000000000000000"},
+        {0x1.fffffffffffffp63, {fixed, 1}, "18446744073709549568.0"},
+        {0x1p64, {fixed, 1}, "18446744073709551616.0"},
+        {2.5, {fixed, 0}, "2"},
+        {1234565, {general, 6}, "1.23456e+06"},
+        {1234575, {general, 6}, "1.23458e+06"},
+        {999999.5, {general, 6}, "1e+06"},
+        {0.0000999999949, {general, 6}, "9.99999e-05"},
+        {0.0000999999996, {general, 6}, "0.0001"},
+        {120.0, {general, 6}, "120"},
+        {0.1, {general, 17}, "0.10000000000000001"},
+        {1e-300, {general, 17}, "1e-300"},
+        {9.9999996, {scientific, 6}, "1.000000e+01"},
+        {0x1p-24, {scientific, 16}, "5.9604644775390625e-08"},
+    };
+    for (const auto& [value, format, expected] : cases) {
+        std::string text;
+        AppendNumber(text, value, format);
+        EXPECT_EQ(text, expected);
+    }
+}
+
+TEST(NumberText, ReadsTheNearestDouble) {
+    const char* const texts[] = {"0",
+                                 "-0.0",
+                                 "9007199254740993",
+                                 "9007199254740992e22",
+                                 "9007199254740993e-1",
+                                 "1e23",
+                                 "1e-23",
+                                 "8.5e-22",
+                                 "1234567890123456789",
+                                 "12345678901234567890",
+                                 ".5",
+                                 "5.",
+                                 "1.7976931348623157e308",
+                                 "123456.78901234567890"};
+    for (const std::string text : texts) {
+        double number = 1.0;
+        ASSERT_TRUE(ParseNumber(text, number)) << text;
+        const double expected = std::strtod(text.c_str(), nullptr);
+        EXPECT_EQ(number, expected) << text;
+        EXPECT_EQ(std::signbit(number), std::signbit(expected)) << text;
+    }
+    for (const char* const text :
+         {"", "-", ".", "1e", "1e+", "--1", "+-1", "1 ", "1e400", "nan", "1x"}) {
+        double number = 1.0;
+        EXPECT_FALSE(ParseNumber(text, number)) << text;
+    }
+}

@@ -1,9 +1,11 @@
 #include "NumberText.h"
 
 #include "Characters.h"
+#include "NumberDigits.h"
 
 #include <algorithm>
 #include <array>
+#include <cfloat>
 #include <cmath>
 #include <iterator>
 #include <limits>
@@ -25,6 +27,11 @@ class Characters {
 public:
     Characters(double value, NumberFormat format) {
         const int precision = format.precision < 0 ? defaultPrecision : format.precision;
+        static_assert(roomForDigits <= usualLength);
+        if (const char* const end = WriteDigits(stack_.data(), value, format.notation, precision)) {
+            view_ = std::string_view(stack_.data(), static_cast<std::size_t>(end - stack_.data()));
+            return;
+        }
         Fill(static_cast<std::size_t>(precision) + longestInteger + longestDressing,
              [&](char* begin, char* end) {
                  return std::to_chars(begin, end, value, format.notation, precision);
@@ -190,8 +197,83 @@ bool IsHuge(std::string_view number, std::chars_format notation) noexcept {
     return place * (isHexadecimal ? 4 : 1) + exponent > 0;
 }
 
+constexpr auto powersOfTen = [] {
+    std::array<double, 23> powers{1.0}; // as far as a double is exact
+    for (std::size_t i = 1; i < powers.size(); ++i) {
+        powers[i] = powers[i - 1] * 10.0;
+    }
+    return powers;
+}();
+
+// The exponent behind a mantissa: a letter, a sign and digits. Moves to its end and gives its
+// value; gives zero and stays where there is none, and a large value where it has more than three
+// digits.
+int TakeExponent(const char*& position, const char* end) noexcept {
+    const char* digit = position;
+    if (digit == end || (*digit != 'e' && *digit != 'E')) {
+        return 0;
+    }
+    ++digit;
+    const bool isNegative = digit != end && *digit == '-';
+    if (digit != end && (*digit == '-' || *digit == '+')) {
+        ++digit;
+    }
+    int value = 0;
+    const char* const first = digit;
+    for (; digit != end && IsDigit(*digit) && value < 1000; ++digit) {
+        value = value * 10 + (*digit - '0');
+    }
+    if (digit == first) {
+        return 0;
+    }
+    position = digit;
+    return isNegative ? -value : value;
+}
+
+// Numbers as files have them. Up to 19 digits make a whole number that 64 bits hold. When it is at
+// most 2^53, a double has it exactly, as it has the powers of ten; dividing or multiplying these
+// two rounds once, so it gives the nearest double. False for all other numbers and texts.
+bool ReadPlainDecimal(std::string_view text, Magnitude& number) noexcept {
+    constexpr std::ptrdiff_t mostDigits = 19;
+    constexpr std::uint64_t mostExact = std::uint64_t{1} << 53;
+    const char* const end = text.data() + text.size();
+    const char* position = text.data();
+    std::uint64_t mantissa = 0;
+    std::ptrdiff_t digits = 0;
+    const auto takeDigits = [&] {
+        const char* const first = position;
+        for (; position != end && IsDigit(*position); ++position) {
+            mantissa = mantissa * 10 + static_cast<std::uint64_t>(*position - '0');
+        }
+        digits += position - first;
+        return position - first;
+    };
+    takeDigits();
+    std::ptrdiff_t decimals = 0;
+    if (position != end && *position == '.') {
+        ++position;
+        decimals = takeDigits();
+    }
+    if (FLT_EVAL_METHOD != 0 || digits == 0 || digits > mostDigits || mantissa > mostExact) {
+        return false;
+    }
+    const int exponent = TakeExponent(position, end) - static_cast<int>(decimals);
+    const auto power = static_cast<std::size_t>(std::abs(exponent));
+    if (power >= powersOfTen.size()) {
+        return false;
+    }
+    const auto whole = static_cast<double>(mantissa);
+    number.value = exponent < 0 ? whole / powersOfTen[power] : whole * powersOfTen[power];
+    number.isThere = true;
+    number.rest = std::string_view(position, static_cast<std::size_t>(end - position));
+    return true;
+}
+
 Magnitude ReadMagnitude(std::string_view text, std::chars_format notation) noexcept {
     Magnitude number;
+    if (notation == std::chars_format::general && ReadPlainDecimal(text, number)) {
+        return number;
+    }
     const auto [end, error] =
         std::from_chars(text.data(), text.data() + text.size(), number.value, notation);
     if (error == std::errc::invalid_argument) {
@@ -235,6 +317,17 @@ Magnitude ReadAsAtof(std::string_view text) noexcept {
     }
     const bool hasSecondSign = text.starts_with('-') || text.starts_with('+');
     return hasSecondSign ? Magnitude() : ReadMagnitude(text, std::chars_format::general);
+}
+
+// The whole text as a plain decimal with an optional minus sign.
+bool ParsePlainDecimal(std::string_view text, double& number) noexcept {
+    const bool isNegative = text.starts_with('-');
+    Magnitude magnitude;
+    if (!ReadPlainDecimal(text.substr(isNegative ? 1 : 0), magnitude) || !magnitude.rest.empty()) {
+        return false;
+    }
+    number = Signed(isNegative, magnitude);
+    return true;
 }
 
 template <typename Number>
@@ -329,6 +422,9 @@ bool ParseNumber(std::string_view text, double& number) {
         if (text.starts_with('-')) {
             return false;
         }
+    }
+    if (ParsePlainDecimal(text, number)) {
+        return true;
     }
     // The words for infinity and not-a-number have no digit ahead of their letters.
     const auto* const first =
