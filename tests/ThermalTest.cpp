@@ -106,11 +106,13 @@ TEST_F(Thermal, ATableWithoutComponents) {
     EXPECT_TRUE(file.ends_with("-- Overall Composition\n-- \n/\n\n\nFILEUNIT\nMETRIC\n/\n"));
 }
 
-TEST_F(Thermal, ShortVectorsAreRefusedAheadOfTheFile) {
+TEST_F(Thermal, VectorsOfAnotherLengthAreRefusedAheadOfTheFile) {
     std::map<std::string, ThermalExportTable> cases;
-    for (const char* const name : {"MolecularWeights", "SpecificHeatD", "Zis", "CrookstonE"}) {
+    for (const char* const name :
+         {"ComponentNames", "MolecularWeights", "SpecificHeatD", "Zis", "CrookstonE"}) {
         cases[name] = Sample(true);
     }
+    cases["ComponentNames"].ComponentNames.push_back("C3");
     cases["MolecularWeights"].MolecularWeights.pop_back();
     cases["SpecificHeatD"].SpecificHeatD.pop_back();
     cases["Zis"].SetZis({1.0});
@@ -121,8 +123,10 @@ TEST_F(Thermal, ShortVectorsAreRefusedAheadOfTheFile) {
             Writer().ExportToFile(table, path, Units::METRIC);
             ADD_FAILURE() << name;
         } catch (const std::invalid_argument& error) {
+            const std::string length = name == "ComponentNames" ? "3" : "1";
             EXPECT_EQ(error.what(), "The thermal table has 2 components, but the length of " +
-                                        name + " is 1; it needs one value for each component");
+                                        name + " is " + length +
+                                        "; it needs one value for each component");
         }
         EXPECT_EQ(ReadFile(path), "old text");
     }

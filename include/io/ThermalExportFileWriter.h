@@ -38,7 +38,8 @@ public:
     /// is empty. A write that fails afterwards, on a full disk for instance, isn't detected.
     ///
     /// Throws `std::invalid_argument`, and leaves the file as it was, where a vector of the table
-    /// has fewer values than the table has components. Its text names the vector and both numbers.
+    /// has fewer or more values than the table has components. Its text names the vector and both
+    /// numbers.
     Common::ErrorReport ExportToFile(const Model::ThermalExportTable& table,
                                      const std::string& fileName,
                                      Common::Units::UNIT_TYPE unitType) const;

@@ -47,7 +47,7 @@ std::vector<double> Scaled(std::vector<double> values, double factor) {
     return values;
 }
 
-// Throws where a vector of the table is too short to have a value for each component.
+// Throws where a vector of the table hasn't one value for each component.
 void RequireOneValuePerComponent(const ThermalExportTable& table) {
     const std::uint64_t n = table.ComponentCount;
     const bool hasFit = table.HasCrookstonData();
@@ -76,7 +76,7 @@ void RequireOneValuePerComponent(const ThermalExportTable& table) {
         {"CrookstonE", hasFit ? table.GetCrookstonE().size() : n},
     };
     for (const auto& [name, size] : vectors) {
-        if (size < n) {
+        if (size != n) {
             throw std::invalid_argument(
                 "The thermal table has " + std::to_string(n) + " components, but the length of " +
                 name + " is " + std::to_string(size) + "; it needs one value for each component");

@@ -10,8 +10,8 @@
 namespace Orv::FluidBench::Model {
 
 /// A value that owns its vectors. With n for `ComponentCount`, every vector has one value for each
-/// of n components, all in one order; whoever fills the table sees to that. One thread at a time
-/// may change a table.
+/// of n components, all in one order; whoever fills the table sees to that, and the writer refuses
+/// one where they differ. One thread at a time may change a table.
 class FLUIDBENCH_BOUNDARY_API ThermalExportTable {
 public:
     double StandardTemperature = 0.0; ///< K
