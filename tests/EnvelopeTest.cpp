@@ -240,6 +240,11 @@ TEST_F(EnvelopeTest, WritesEveryKindOfLine) {
     plot.AddLine(LineOf(1, {{7, 7}, {7, 7}, {7, 7}}));                  // the second dew line
     plot.AddLine(LineOf(8, {{7, 7}, {7, 7}, {7, 7}}));                  // an unknown phase
     plot.AddLine(LineOf(0, {{7, 7}}, 0.0, static_cast<Line::Type>(0))); // and type
+    std::string phases;
+    for (const Line& line : CommonPlottingObject(plot).GetLines()) { // the plot goes at once
+        phases += std::to_string(static_cast<int>(line.GetPhase())) + ' ';
+    }
+    EXPECT_EQ(phases, "16 13 13 7 7 5 4 6 3 1 1 8 0 ");
     const Plots plots = {plot, CommonPlottingObject(AxisType(7), AxisType(-1))};
     const FluidBenchTest::ForeignGlobalLocale foreign;
     const std::string expected =

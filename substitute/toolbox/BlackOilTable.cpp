@@ -2,10 +2,12 @@
 #include "FluidBench/Model/BlackOilTable.h"
 
 #include "FluidBench/Model/BlackOilDataRecords.h"
+#include "Room.h"
 
 #include <cstddef>
 #include <iterator>
 #include <stdexcept>
+#include <utility>
 
 namespace Orv::FluidBench::Model {
 
@@ -46,9 +48,7 @@ std::uint64_t BlackOilDataRecords::AddEntry(std::uint64_t record, double pressur
     }
     const Entry entry{pressure, property, formationVolumeFactor, viscosity};
     if (record == records) {
-        entries_.push_back(entry);
-        recordEnds_.push_back(entries_.size());
-        return 0;
+        return AddRecord({entry}), 0;
     }
     const std::uint64_t end = End(record);
     entries_.insert(std::next(entries_.begin(), static_cast<std::ptrdiff_t>(end)), entry);
@@ -56,6 +56,16 @@ std::uint64_t BlackOilDataRecords::AddEntry(std::uint64_t record, double pressur
         ++recordEnds_[i];
     }
     return end - Begin(record);
+}
+
+std::uint64_t BlackOilDataRecords::AddRecord(std::span<const Entry> entries) {
+    if (entries.empty()) {
+        throw std::invalid_argument("A record of a black-oil table has at least one entry");
+    }
+    MakeRoomForOneMore(recordEnds_);
+    entries_.insert(entries_.end(), entries.begin(), entries.end());
+    recordEnds_.push_back(entries_.size());
+    return recordEnds_.size() - 1;
 }
 
 BlackOilTable::BlackOilTable() = default;
@@ -81,14 +91,26 @@ const BlackOilDataRecords& BlackOilTable::GetDryGasData() const noexcept {
 void BlackOilTable::SetLiveOilData(const BlackOilDataRecords& records) {
     liveOil_ = records;
 }
+void BlackOilTable::SetLiveOilData(BlackOilDataRecords&& records) noexcept {
+    liveOil_ = std::move(records);
+}
 void BlackOilTable::SetDeadOilData(const BlackOilDataRecords& records) {
     deadOil_ = records;
+}
+void BlackOilTable::SetDeadOilData(BlackOilDataRecords&& records) noexcept {
+    deadOil_ = std::move(records);
 }
 void BlackOilTable::SetWetGasData(const BlackOilDataRecords& records) {
     wetGas_ = records;
 }
+void BlackOilTable::SetWetGasData(BlackOilDataRecords&& records) noexcept {
+    wetGas_ = std::move(records);
+}
 void BlackOilTable::SetDryGasData(const BlackOilDataRecords& records) {
     dryGas_ = records;
+}
+void BlackOilTable::SetDryGasData(BlackOilDataRecords&& records) noexcept {
+    dryGas_ = std::move(records);
 }
 
 double BlackOilTable::GetOilDensity() const noexcept {

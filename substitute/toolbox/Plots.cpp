@@ -1,6 +1,7 @@
 // The toolbox's plots and their lines: values without any computation behind them.
 #include "FluidBench/Common/CommonPlottingObject.h"
 #include "FluidBench/Common/PTline.h"
+#include "Room.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -28,6 +29,10 @@ Line& Line::operator=(Line&&) noexcept = default;
 Line::~Line() = default;
 
 std::vector<Point> Line::GetPoints() const {
+    return points_;
+}
+
+const std::vector<Point>& Line::ViewPoints() const noexcept {
     return points_;
 }
 
@@ -87,7 +92,14 @@ CommonPlottingObject& CommonPlottingObject::operator=(CommonPlottingObject&&) no
 CommonPlottingObject::~CommonPlottingObject() = default;
 
 void CommonPlottingObject::AddLine(const Line& line) {
-    lines_[{line.GetType(), line.GetPhase()}].push_back(line);
+    AddLine(Line(line));
+}
+
+void CommonPlottingObject::AddLine(Line&& line) {
+    std::vector<std::size_t>& places = places_[{line.GetType(), line.GetPhase()}];
+    MakeRoomForOneMore(places);
+    lines_.push_back(std::move(line));
+    places.push_back(lines_.size() - 1);
 }
 
 bool CommonPlottingObject::HasLine(Line::Type type, Line::Phase phase) const noexcept {
@@ -95,15 +107,24 @@ bool CommonPlottingObject::HasLine(Line::Type type, Line::Phase phase) const noe
 }
 
 int CommonPlottingObject::NumberOfLines(Line::Type type, Line::Phase phase) const noexcept {
-    const auto found = lines_.find({type, phase});
-    return found == lines_.end() ? 0 : static_cast<int>(found->second.size());
+    const auto found = places_.find({type, phase});
+    return found == places_.end() ? 0 : static_cast<int>(found->second.size());
 }
 
 const Line& CommonPlottingObject::GetLine(Line::Type type, Line::Phase phase, int index) const {
     if (index < 0 || index >= NumberOfLines(type, phase)) {
         throw std::out_of_range("The plot has no such line");
     }
-    return lines_.at({type, phase})[static_cast<std::size_t>(index)];
+    return lines_[places_.at({type, phase})[static_cast<std::size_t>(index)]];
+}
+
+const std::vector<Line>& CommonPlottingObject::GetLines() const& noexcept {
+    return lines_;
+}
+
+std::vector<Line> CommonPlottingObject::GetLines() && noexcept {
+    places_.clear();
+    return std::move(lines_);
 }
 
 CommonPlottingObject::AxisType CommonPlottingObject::GetXAxisType() const noexcept {

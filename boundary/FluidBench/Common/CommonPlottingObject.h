@@ -4,6 +4,7 @@
 #include "FluidBench/Common/Line.h"
 #include "Visibility.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <utility>
@@ -34,8 +35,10 @@ public:
     CommonPlottingObject& operator=(CommonPlottingObject&&) noexcept;
     ~CommonPlottingObject();
 
-    /// Appends a copy of the line.
+    /// Appends the line: a copy of it, or the line itself where it may be moved from. Moving is the
+    /// stand-in's own.
     void AddLine(const Line& line);
+    void AddLine(Line&& line);
 
     bool HasLine(Line::Type type, Line::Phase phase) const noexcept;
     int NumberOfLines(Line::Type type, Line::Phase phase) const noexcept;
@@ -45,10 +48,19 @@ public:
     AxisType GetXAxisType() const noexcept;
     AxisType GetYAxisType() const noexcept;
 
+    // The stand-in's own operation.
+
+    /// All lines in the order in which they were added; valid until a line is added. A plot that
+    /// goes at once gives its lines away.
+    const std::vector<Line>& GetLines() const& noexcept;
+    std::vector<Line> GetLines() && noexcept;
+
 private:
     AxisType xAxis_;
     AxisType yAxis_;
-    std::map<std::pair<Line::Type, Line::Phase>, std::vector<Line>> lines_;
+    std::vector<Line> lines_;
+    // Where the lines of a type and phase are.
+    std::map<std::pair<Line::Type, Line::Phase>, std::vector<std::size_t>> places_;
 };
 
 } // namespace Orv::FluidBench::Common

@@ -48,8 +48,10 @@ public:
 
     // The stand-in's own operations.
 
-    /// Valid, as a reference, until the line is assigned to or goes.
+    /// What is given by reference is valid until the line is assigned to or goes.
     const std::string& GetName() const noexcept;
+    /// What `GetPoints` copies.
+    const std::vector<Point>& ViewPoints() const noexcept;
     Type GetType() const noexcept;
     Phase GetPhase() const noexcept;
 

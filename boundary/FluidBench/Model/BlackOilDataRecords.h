@@ -4,6 +4,8 @@
 #include "Visibility.h"
 
 #include <cstdint>
+#include <initializer_list>
+#include <span>
 #include <stdexcept>
 #include <vector>
 
@@ -47,14 +49,23 @@ public:
     std::uint64_t AddEntry(std::uint64_t record, double pressure, double property,
                            double formationVolumeFactor, double viscosity);
 
-private:
+    // The stand-in's own operations.
+
     struct Entry {
-        double pressure;
-        double property;
-        double formationVolumeFactor;
-        double viscosity;
+        double pressure = 0.0;              ///< Pa
+        double property = 0.0;              ///< gas-oil or oil-gas ratio, m3/m3
+        double formationVolumeFactor = 0.0; ///< m3/m3
+        double viscosity = 0.0;             ///< Pa.s
     };
 
+    /// Appends a record and gives its index. Throws `std::invalid_argument` for one without
+    /// entries.
+    std::uint64_t AddRecord(std::span<const Entry> entries);
+    std::uint64_t AddRecord(std::initializer_list<Entry> entries) {
+        return AddRecord(std::span<const Entry>(entries.begin(), entries.size()));
+    }
+
+private:
     // Inline, so that a getter isn't four calls.
     std::uint64_t Begin(std::uint64_t record) const noexcept {
         return record == 0 ? 0 : recordEnds_[record - 1];

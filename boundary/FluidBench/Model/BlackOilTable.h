@@ -27,8 +27,13 @@ public:
     /// Gas without vaporised oil: entries by pressure.
     const BlackOilDataRecords& GetDryGasData() const noexcept;
 
+    /// Each setter of a table copies what it is given, or takes it over when it may: from
+    /// `std::move(records)`, which then has no records, or from the result of an operation. Taking
+    /// over is the stand-in's own.
     void SetLiveOilData(const BlackOilDataRecords& records);
+    void SetLiveOilData(BlackOilDataRecords&& records) noexcept;
     void SetWetGasData(const BlackOilDataRecords& records);
+    void SetWetGasData(BlackOilDataRecords&& records) noexcept;
 
     /// Surface densities in kg/m3.
     double GetOilDensity() const noexcept;
@@ -45,7 +50,9 @@ public:
     // The stand-in's own operations.
 
     void SetDeadOilData(const BlackOilDataRecords& records);
+    void SetDeadOilData(BlackOilDataRecords&& records) noexcept;
     void SetDryGasData(const BlackOilDataRecords& records);
+    void SetDryGasData(BlackOilDataRecords&& records) noexcept;
     /// Gas-oil ratio in m3/m3 and pressure in Pa.
     void SetSaturationPoint(double rs, double pressure) noexcept;
     double GetWaterDensity() const noexcept;
