@@ -53,17 +53,17 @@ FluidComponent MakeComponent(const Row& row) {
 
 Stage MakeSeparatorStage(const Row& row) {
     Stage stage;
-    stage.Results->Pressure = {true, Units::Pressure_bar_To_Pa(Number(row.at(1)))};
-    stage.Results->Temperature = {true, Number(row.at(2))};
+    stage.Results->Pressure.Set(Units::Pressure_bar_To_Pa(Number(row.at(1))));
+    stage.Results->Temperature.Set(Number(row.at(2)));
     return stage;
 }
 
 Stage MakeDepthStage(const Row& row, const std::vector<FluidComponent>& components) {
     const bool isGas = row.at(0) == "gas";
     Stage stage;
-    stage.Results->Depth = {true, Number(row.at(1))};
-    stage.Results->SaturationPressure = {true, Units::Pressure_bar_To_Pa(Number(row.at(2)))};
-    stage.Results->GasOilRatio = {true, Number(row.at(3))};
+    stage.Results->Depth.Set(Number(row.at(1)));
+    stage.Results->SaturationPressure.Set(Units::Pressure_bar_To_Pa(Number(row.at(2))));
+    stage.Results->GasOilRatio.Set(Number(row.at(3)));
     stage.VapourPhase.SetPresent(isGas);
     stage.LiquidPhase.SetPresent(!isGas);
     stage.FluidState = isGas ? 0 : oilLikeFluidState;
@@ -157,7 +157,7 @@ ExperimentResults Separate(const CompositionalFluid& fluid, const std::vector<St
     run.Failed = !(oilMass > 0.0);
     for (const double gas : gasMoles) {
         Stage stage;
-        stage.Results->GasOilRatio = {true, gas * gasVolumePerKilogramMole * oilDensity / oilMass};
+        stage.Results->GasOilRatio.Set(gas * gasVolumePerKilogramMole * oilDensity / oilMass);
         run.Stages.push_back(stage);
     }
     return run;

@@ -138,11 +138,10 @@ TEST_F(BlackOil, CompositionsAgainstPressure) {
     Experiments::ExperimentResults results;
     for (const double bar : {250.0, 200.0}) {
         Experiments::Stage stage;
-        stage.Results->Pressure = {true, bar * 1e5};
+        stage.Results->Pressure.Set(bar * 1e5);
         stage.VapourPhase.SetPresent(bar < 210.0);
         stage.VapourPhase.Composition = {0.9, 0.1}; // not read where the phase isn't present
-        stage.LiquidPhase.SetPresent(true);
-        stage.LiquidPhase.Composition = {bar < 210.0 ? 0.5 : 0.6, bar < 210.0 ? 0.5 : 0.4};
+        stage.LiquidPhase.Set({bar < 210.0 ? 0.5 : 0.6, bar < 210.0 ? 0.5 : 0.4});
         results.Stages.push_back(stage);
     }
     const std::string path = folder / "compositions";
@@ -230,10 +229,16 @@ TEST(BlackOilDataRecords, EntriesOfEarlierRecordsAndBadIndices) {
     EXPECT_THROW(records.AddEntry(3, 0, 0, 0, 0), std::out_of_range);
     EXPECT_EQ(records.AddEntry(0, 3e5, 0, 0, 0), 1U);
     EXPECT_EQ(records.AddEntry(2, 4e5, 0, 0, 0), 0U);
+    EXPECT_EQ(records.AddRecord({{5e5, 1, 2, 3}, {6e5, 0, 0, 0}}), 3U);
+    EXPECT_THROW(records.AddRecord({}), std::invalid_argument);
     BlackOilTable table;
     table.SetLiveOilData(records);
-    EXPECT_EQ(Summary(table), "0 0 0 oil 1 3; 2; 4; gas");
+    EXPECT_EQ(Summary(table), "0 0 0 oil 1 3; 2; 4; 5 6; gas");
+    EXPECT_EQ(records.GetViscosity(3, 0), 3.0);
     EXPECT_THROW(records.GetPressure(0, 2), std::out_of_range);
-    EXPECT_THROW(records.GetViscosity(3, 0), std::out_of_range);
-    EXPECT_THROW(records.GetRecordContentSize(3), std::out_of_range);
+    EXPECT_THROW(records.GetViscosity(4, 0), std::out_of_range);
+    EXPECT_THROW(records.GetRecordContentSize(4), std::out_of_range);
+    table.SetWetGasData(std::move(records));
+    EXPECT_EQ(records.GetTableSize(), 0U); // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(Summary(table), "0 0 0 oil 1 3; 2; 4; 5 6; gas 1 3; 2; 4; 5 6;");
 }

@@ -1,6 +1,7 @@
 // One phase of a stage of an experiment.
 #pragma once
 
+#include <utility>
 #include <vector>
 
 namespace Orv::FluidBench::Common {
@@ -10,12 +11,19 @@ class Phase {
 public:
     bool Present() const noexcept { return isPresent_; }
 
-    /// The stand-in's own operation.
-    void SetPresent(bool isPresent) noexcept { isPresent_ = isPresent; }
-
     /// One fraction per component, in the fluid's order; of no meaning while the phase isn't
     /// present.
     std::vector<double> Composition;
+
+    // The stand-in's own operations.
+
+    /// From here on the phase is present and consists of that.
+    void Set(std::vector<double> composition) noexcept {
+        Composition = std::move(composition);
+        isPresent_ = true;
+    }
+    /// Leaves the composition as it is.
+    void SetPresent(bool isPresent) noexcept { isPresent_ = isPresent; }
 
 private:
     bool isPresent_ = false;

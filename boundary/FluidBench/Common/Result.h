@@ -10,6 +10,14 @@ struct Result {
 
     /// The number; 0.0 where none is set.
     double GetValue() const noexcept { return IsSet ? Value : 0.0; }
+
+    // The stand-in's own operation.
+
+    /// From here on the number is there.
+    void Set(double value) noexcept {
+        IsSet = true;
+        Value = value;
+    }
 };
 
 } // namespace Orv::FluidBench::Common
