@@ -33,7 +33,7 @@ using Ids = std::vector<std::int32_t>;
 
 namespace {
 
-constexpr auto noValue = pvtEnumPropertySource::None;
+constexpr auto noValue = pvtEnumPropertySource::NoValue;
 constexpr auto bicType = pvtEnumBICType::ReservoirEoS;
 
 // What a read gives.
@@ -59,9 +59,9 @@ Outcome ReadDeck(const std::string& path, bool detectUnitSystem = false,
     outcome.ids = MessageIds(report);
     outcome.failed = report.HasErrors();
     outcome.reason = outcome.ids.empty() ? "" : report.GetMessages().back().GetText();
-    outcome.errors = log.Of(Log::ERROR);
-    outcome.warnings = log.Of(Log::WARNING);
-    outcome.debug = log.Of(Log::DEBUG);
+    outcome.errors = log.Of(Log::Error);
+    outcome.warnings = log.Of(Log::Warning);
+    outcome.debug = log.Of(Log::Debug);
     outcome.units = reader.GetPVOUnitSystemToUse();
     return outcome;
 }

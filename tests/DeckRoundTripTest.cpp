@@ -130,12 +130,12 @@ void ExpectSameFluid(const CompositionalFluid& written, const CompositionalFluid
             AgreesInDeck(written.GetComponentFraction(names[i]), read.GetComponentFraction(name)));
         // A value that is missing is written as a zero.
         for (const Property& property : properties) {
-            EXPECT_NE((readComponents[i].*property.source)(), pvtEnumPropertySource::None);
+            EXPECT_NE((readComponents[i].*property.source)(), pvtEnumPropertySource::NoValue);
             EXPECT_TRUE(
                 AgreesInDeck((components[i].*property.get)(), (readComponents[i].*property.get)()))
                 << property.name << " of " << name;
         }
-        EXPECT_EQ(readComponents[i].GetEoSVolumeShiftSource() != pvtEnumPropertySource::None,
+        EXPECT_EQ(readComponents[i].GetEoSVolumeShiftSource() != pvtEnumPropertySource::NoValue,
                   hasShift);
         EXPECT_TRUE(!hasShift || AgreesInDeck(components[i].GetEoSVolumeShift(),
                                               readComponents[i].GetEoSVolumeShift()));

@@ -92,6 +92,11 @@ TEST(Messages, KeepTheirParameterAndRaiseTheFlagByTheirCode) {
     EXPECT_TRUE(moved.HasErrors());
     EXPECT_EQ(MessageIds(moved), (std::vector<std::int32_t>{1001, 7, 3369, 1001}));
     EXPECT_EQ(moved.GetMessages().front().GetText(), moved.GetMessages().back().GetText());
+    std::vector<std::int32_t> ids;
+    for (const Message& each : ErrorReport(moved).GetMessages()) { // the report goes at once
+        ids.push_back(each.GetMessageId());
+    }
+    EXPECT_EQ(ids, MessageIds(moved));
 }
 
 TEST(FluidComponents, KeepASourcePerProperty) {
@@ -99,7 +104,7 @@ TEST(FluidComponents, KeepASourcePerProperty) {
         const auto isSetIn = [](const FluidComponent& component) {
             std::string set;
             for (const Property& each : properties) {
-                if ((component.*each.source)() != Source::None) {
+                if ((component.*each.source)() != Source::NoValue) {
                     set += each.name;
                 }
             }
@@ -149,7 +154,7 @@ TEST(FluidComponents, OmegaBMustBeBelowOmegaA) {
         } else {
             EXPECT_THROW(aFirst.SetOmegaB(b), RelatedPropertyOutOfRangeException);
             EXPECT_THROW(bFirst.SetOmegaA(a), RelatedPropertyOutOfRangeException);
-            EXPECT_EQ(bFirst.GetOmegaASource(), Source::None);
+            EXPECT_EQ(bFirst.GetOmegaASource(), Source::NoValue);
         }
     }
 }
@@ -180,8 +185,8 @@ TEST(Fluids, KeepComponentsInOrderAndCoefficientsByName) {
     EXPECT_EQ(copy.GetComponentFraction("b"), 0.75);
     EXPECT_EQ(copy.GetBIC("a", "b", set), 0.25);
     EXPECT_EQ(copy.GetBICSource("b", "a", set), Source::User);
-    EXPECT_EQ(copy.GetBICSource("c", "a", set), Source::None);
-    EXPECT_EQ(copy.GetBICSource("b", "missing", set), Source::None);
+    EXPECT_EQ(copy.GetBICSource("c", "a", set), Source::NoValue);
+    EXPECT_EQ(copy.GetBICSource("b", "missing", set), Source::NoValue);
 }
 
 TEST(Fluids, GlobalNamesBelongToOneComponentEach) {

@@ -52,7 +52,7 @@ TEST_F(MflTest, ReadsAFluidAndItsStreamsInAnyLocale) {
     EXPECT_NEAR(light.GetVcrit(), 0.0986e-3, 1e-18);
     EXPECT_EQ(light.GetAcf(), 0.011);
     EXPECT_EQ(fluid.GetOrderedComponents()[1].GetPcritSource(),
-              Common::pvtEnumPropertySource::None);
+              Common::pvtEnumPropertySource::NoValue);
     EXPECT_EQ(fluid.GetBIC("C7 plus", "C1", Common::pvtEnumBICType::ReservoirEoS), -0.05);
     EXPECT_EQ(streams, (Streams{{0.9, 0.1}, {0, 1000}}));
 

@@ -108,7 +108,7 @@ std::string FractionHeading(pvtEnumUnitFraction type) {
 }
 
 bool HasValue(const FluidComponent& component, const Column& column) {
-    return (component.*column.source)() != pvtEnumPropertySource::None;
+    return (component.*column.source)() != pvtEnumPropertySource::NoValue;
 }
 
 std::vector<Column> UsedColumns(const std::vector<FluidComponent>& components) {

@@ -115,7 +115,7 @@ void WriteSection(std::ostream& deck, const PropertySection& section, const Comp
     std::string line;
     for (std::size_t i = 0; i < n; ++i) {
         const FluidComponent& component = components[i];
-        if ((component.*section.source)() == pvtEnumPropertySource::None) {
+        if ((component.*section.source)() == pvtEnumPropertySource::NoValue) {
             line = noValue;
         } else {
             AppendNumber(line, convert((component.*section.value)()), deckNumber);
@@ -156,7 +156,7 @@ void WriteInteractionRow(std::ostream& deck, const CompositionalFluid& fluid,
     constexpr auto set = pvtEnumBICType::ReservoirEoS;
     std::size_t lineBegin = 0;
     for (std::size_t column = 0; column < row; ++column) {
-        if (fluid.GetBICSource(names[row], names[column], set) == pvtEnumPropertySource::None) {
+        if (fluid.GetBICSource(names[row], names[column], set) == pvtEnumPropertySource::NoValue) {
             lines += "0.0 ";
             continue;
         }
@@ -230,7 +230,7 @@ void WriteVolumeShifts(std::ostream& deck, const CompositionalFluid& fluid,
     std::string line;
     for (std::size_t i = 0; i < n; ++i) {
         const FluidComponent& component = components[i];
-        if (component.GetEoSVolumeShiftSource() == pvtEnumPropertySource::None) {
+        if (component.GetEoSVolumeShiftSource() == pvtEnumPropertySource::NoValue) {
             line = noVolumeShift;
         } else {
             const bool temperatureDependent = fluid.GetUseTemperatureDependentVolumeShift();

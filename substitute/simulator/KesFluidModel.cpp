@@ -26,7 +26,7 @@ void TellPassedOver(KeywordTracker& tracker, std::string_view keyword, const std
                     std::uint64_t line) {
     const std::string name(keyword);
     if (tracker.addPassedOver(name)) {
-        Tell(Log::DEBUG,
+        Tell(Log::Debug,
              Describe(FilePlace{file, line}) + ": keyword " + Quote(name) + " is passed over.");
     }
 }
@@ -46,7 +46,7 @@ void KesFluidModel::createFromKeywords(const Deck& deck, const KesGridModel*,
         return counts ? std::optional(known->data) : std::nullopt;
     };
     DeckObserver observer;
-    observer.hint = [](const std::string& text) { Tell(Log::WARNING, text); };
+    observer.hint = [](const std::string& text) { Tell(Log::Warning, text); };
     if (tracker != nullptr) {
         observer.passedOver = [&](std::string_view keyword, const std::string& file,
                                   std::uint64_t line) {
@@ -56,7 +56,7 @@ void KesFluidModel::createFromKeywords(const Deck& deck, const KesGridModel*,
     try {
         InterpretFluid(DeckIndex(deck.getFileName(), wanted, observer), models_);
     } catch (const std::exception& error) {
-        Tell(Log::ERROR, error.what());
+        Tell(Log::Error, error.what());
         throw;
     }
 }

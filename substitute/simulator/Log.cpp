@@ -9,15 +9,15 @@ namespace {
 
 const char* NameOf(Log::Severity severity) {
     switch (severity) {
-    case Log::FATAL:
+    case Log::Fatal:
         return "fatal";
-    case Log::ERROR:
+    case Log::Error:
         return "error";
-    case Log::WARNING:
+    case Log::Warning:
         return "warning";
-    case Log::INFORMATION:
+    case Log::Information:
         return "note";
-    case Log::DEBUG:
+    case Log::Debug:
         return "debug";
     }
     return "message";
@@ -58,7 +58,8 @@ Log::Severity DefaultLogger::getMaxSeverity() const {
 
 void DefaultLogger::write(Log::Severity severity, const std::string& text) {
     if (severity <= maxSeverity_) {
-        std::cerr << NameOf(severity) << ": " << text << '\n';
+        // In one piece, so that the lines of two threads don't mix.
+        std::cerr << std::string(NameOf(severity)) + ": " + text + '\n';
     }
 }
 

@@ -10,7 +10,7 @@ namespace {
 constexpr double gasConstant = 8.31446261815324; // J/(mol K), exact by the SI of 2019
 
 bool IsMissing(pvtEnumPropertySource source, double value) {
-    return source == pvtEnumPropertySource::None || value == 0.0;
+    return source == pvtEnumPropertySource::NoValue || value == 0.0;
 }
 
 // Pc Vc = Zc R Tc gives the one that is missing.

@@ -201,7 +201,7 @@ pvtEnumPropertySource CompositionalFluid::GetBICSource(const std::string& first,
                                                        const std::string& second,
                                                        pvtEnumBICType) const {
     return command_->Coefficient(first, second) ? pvtEnumPropertySource::User
-                                                : pvtEnumPropertySource::None;
+                                                : pvtEnumPropertySource::NoValue;
 }
 
 const std::vector<FluidComponent> CompositionalFluid::GetOrderedComponents() const {

@@ -171,7 +171,7 @@ pvtEnumPropertySource FluidComponent::GetEoSVolumeShiftSource() const {
 double FluidComponent::GetEoSTDependantVolumeShift(double temperature,
                                                    bool useTemperatureDependence) const {
     if (!useTemperatureDependence ||
-        data_->thermalExpansion.source == pvtEnumPropertySource::None) {
+        data_->thermalExpansion.source == pvtEnumPropertySource::NoValue) {
         return data_->volumeShift.value;
     }
     return data_->volumeShift.value +

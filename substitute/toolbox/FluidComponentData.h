@@ -10,7 +10,7 @@ namespace Orv::FluidBench::Model {
 struct FluidComponent::Data {
     struct Property {
         double value = 0.0;
-        Common::pvtEnumPropertySource source = Common::pvtEnumPropertySource::None;
+        Common::pvtEnumPropertySource source = Common::pvtEnumPropertySource::NoValue;
     };
 
     std::string name;

@@ -95,8 +95,12 @@ bool ErrorReport::HasErrors() const noexcept {
     return hasErrors_;
 }
 
-const std::vector<Message>& ErrorReport::GetMessages() const noexcept {
+const std::vector<Message>& ErrorReport::GetMessages() const& noexcept {
     return messages_;
+}
+
+std::vector<Message> ErrorReport::GetMessages() && noexcept {
+    return std::move(messages_);
 }
 
 } // namespace Orv::FluidBench::Common

@@ -35,7 +35,7 @@ enum class pvtEnumHCForm : std::int32_t { Hydrocarbon = 0, NonHydrocarbon = 1 };
 
 /// Where the value of a property came from. Zero means that the property has no value; every other
 /// number means that a value is there.
-enum class pvtEnumPropertySource : std::int32_t { None = 0, User = 1, Library = 2 };
+enum class pvtEnumPropertySource : std::int32_t { NoValue = 0, User = 1, Library = 2 };
 
 /// Set of binary interaction coefficients.
 enum class pvtEnumBICType : std::int32_t { ReservoirEoS = 0 };

@@ -27,8 +27,11 @@ public:
 
     // The stand-in's own operation.
 
-    /// The messages in the order of `Add`; valid until the next `Add` or assignment.
-    const std::vector<Message>& GetMessages() const noexcept;
+    /// The messages in the order of `Add`; valid until the next `Add` or assignment. A report that
+    /// goes at once gives them away, so `for (auto& message : reader.Read(fluid).GetMessages())`
+    /// holds what it walks over.
+    const std::vector<Message>& GetMessages() const& noexcept;
+    std::vector<Message> GetMessages() && noexcept;
 
 private:
     std::vector<Message> messages_;

@@ -58,7 +58,7 @@ public:
     /// The coefficient; 0.0 where none is set.
     double GetBIC(const std::string& first, const std::string& second,
                   Common::pvtEnumBICType type) const;
-    /// `None` where no coefficient is set, and for a name that the fluid lacks.
+    /// `NoValue` where no coefficient is set, and for a name that the fluid lacks.
     Common::pvtEnumPropertySource GetBICSource(const std::string& first, const std::string& second,
                                                Common::pvtEnumBICType type) const;
 

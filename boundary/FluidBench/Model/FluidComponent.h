@@ -9,7 +9,7 @@
 
 namespace Orv::FluidBench::Model {
 
-/// A value. Every property starts without a value (source `None`); a setter gives it one (source
+/// A value. Every property starts without a value (source `NoValue`); a setter gives it one (source
 /// `User`). Pressures are in Pa, temperatures in K, volumes in m3 per gram-mole.
 ///
 /// A value getter of a property without a value gives 0.0. A setter that refuses its argument

@@ -29,8 +29,8 @@ public:
     ///
     /// Throws what derives from `std::exception` for a deck that can't be interpreted, with the
     /// reason as its text, and tells it to the current logger as an error. The store may have been
-    /// written to by then. Keywords that are passed over are told to the logger as `DEBUG`; what
-    /// may have been meant for a keyword and isn't taken is told as `WARNING`.
+    /// written to by then. Keywords that are passed over are told to the logger as `Debug`; what
+    /// may have been meant for a keyword and isn't taken is told as `Warning`.
     void createFromKeywords(const Deck& deck, const KesGridModel* grid, KeywordTracker* tracker,
                             const IFluidsKeywordValidator* validator);
 

@@ -3,6 +3,7 @@
 
 #include "Visibility.h"
 
+#include <atomic>
 #include <cstdint>
 #include <string>
 
@@ -12,7 +13,7 @@ class BaseLogger;
 
 struct FLUIDBENCH_BOUNDARY_API Log {
     /// How much a message matters, the most first.
-    enum Severity : std::int32_t { FATAL = 0, ERROR = 1, WARNING = 2, INFORMATION = 3, DEBUG = 4 };
+    enum Severity : std::int32_t { Fatal = 0, Error = 1, Warning = 2, Information = 3, Debug = 4 };
 
     /// The logger in force, process-wide. Never null: a `DefaultLogger` until somebody sets
     /// another.
@@ -38,13 +39,14 @@ public:
     virtual void write(Log::Severity severity, const std::string& text) = 0;
 };
 
-/// Prints messages to the error stream, one a line, as far as they matter enough.
+/// Prints messages to the error stream, one a line, as far as they matter enough. Any number of
+/// threads may use it.
 class FLUIDBENCH_BOUNDARY_API DefaultLogger : public BaseLogger {
 public:
     DefaultLogger();
     ~DefaultLogger() override;
 
-    /// Messages of a greater number than this aren't printed. `ERROR` at first.
+    /// Messages of a greater number than this aren't printed. `Error` at first.
     void setMaxSeverity(Log::Severity severity);
     void write(Log::Severity severity, const std::string& text) override;
 
@@ -53,7 +55,7 @@ public:
     Log::Severity getMaxSeverity() const;
 
 private:
-    Log::Severity maxSeverity_ = Log::ERROR;
+    std::atomic<Log::Severity> maxSeverity_ = Log::Error;
 };
 
 } // namespace Orv::Kes::KesModel

@@ -232,7 +232,7 @@ bool PVOImporter::RefuseForeignProperties(const PVOCompositionalModelAdaptor& mo
         for (const IComponent::Property property : foreignProperties) {
             if (component.hasProperty(property)) {
                 Log::getCurrentLogger()->write(
-                    Log::ERROR, fileName + ": component '" + component.getName() +
+                    Log::Error, fileName + ": component '" + component.getName() +
                                     "' has a specific heat, which a fluid can't hold; expected a "
                                     "deck without SPECHA, SPECHB, SPECHG and SPECHH.");
                 report.Add(Failure(MessageId::deckNotInterpreted));

@@ -50,17 +50,17 @@ void Tell(Log::Severity severity, const std::string& text) {
 Log::Severity SeverityOf(pvtEnumPVOErrorSeverityLevel level) noexcept {
     switch (level) {
     case pvtEnumPVOErrorSeverityLevel::Fatal:
-        return Log::FATAL;
+        return Log::Fatal;
     case pvtEnumPVOErrorSeverityLevel::Error:
-        return Log::ERROR;
+        return Log::Error;
     case pvtEnumPVOErrorSeverityLevel::Warning:
-        return Log::WARNING;
+        return Log::Warning;
     case pvtEnumPVOErrorSeverityLevel::Information:
-        return Log::INFORMATION;
+        return Log::Information;
     case pvtEnumPVOErrorSeverityLevel::Debug:
-        return Log::DEBUG;
+        return Log::Debug;
     }
-    return Log::ERROR;
+    return Log::Error;
 }
 
 // The first model by name; null where the store has none, none under its first name, or one of
@@ -107,7 +107,7 @@ ErrorReport PVOImporter::Import(CompositionalFluid& fluid, bool characterise,
 
     const PVOCompositionalModelAdaptor* const model = FirstModel(models);
     if (model == nullptr) {
-        Tell(Log::ERROR, fileName + ": expected a compositional fluid in the deck, found none.");
+        Tell(Log::Error, fileName + ": expected a compositional fluid in the deck, found none.");
         report.Add(Failure(MessageId::deckNotInterpreted));
         return report;
     }
@@ -157,7 +157,7 @@ pvtEnumPVOUnitSystemType PVOImporter::DetectUnitSystem() const {
         }
         previous = line;
     }
-    Tell(Log::WARNING, fileName + ": neither a FILEUNIT record nor a unit comment ahead of TCRIT "
+    Tell(Log::Warning, fileName + ": neither a FILEUNIT record nor a unit comment ahead of TCRIT "
                                   "tells the units, so they are taken as field units.");
     return pvtEnumPVOUnitSystemType::Field;
 }
