@@ -1,8 +1,10 @@
 // Black-oil tables as keywords and as CSV, and reading CSV back.
 #include "BlackOilFormatters.h"
+#include "Diagnosed.h"
 #include "TestSupport.h"
 #include "io/BlackOilExportFileWriter.h"
 
+#include <iomanip>
 #include <sstream>
 #include <stdexcept>
 
@@ -197,30 +199,104 @@ TEST_F(BlackOil, TextThatTheReaderMeets) {
     struct Case {
         std::string text;
         const char* summary;
+        const char* told; // lines and codes
     };
     const std::string million(1'000'000, '\n');
+    const std::string densities = "ODEN,800\nWDEN,1000\nGDEN,1\n";
     const Case cases[] = {
-        {"", "0 0 0 oil gas"},
-        {std::string("\0\xff,\0,,,,\n", 9), "0 0 0 oil gas"},
+        {"", "0 0 0 oil gas", "0:no-table"},
+        {std::string("\0\xff,\0,,,,\n", 9), "0 0 0 oil gas", "0:no-table"},
         {"ODEN,800\nOden,801\n oden,802\nwden, 1e3x\nGDEN,\nunits,1\nDENS,3\nFILEUNIT\n",
-         "801 1000 0 oil gas"},
+         "801 1000 0 oil gas",
+         "3:heading-form 4:text-behind-number 5:not-a-number 6:other-units 0:no-table"},
         // Cells: the first isn't read, a missing number is 0, and what follows the fifth is
         // dropped.
         {"pvto,\nx,1,2,3,4,5\n,1,a,3,4\n1,2,3,4\n,1, 4bar ,,\nunits, 1\n\n,1,5,3,4",
-         "0 0 0 oil 2 0 4; 5; gas"},
+         "0 0 0 oil 2 0 4; 5; gas",
+         "2:text-behind-number 3:not-a-number 3:pressure-order 4:row-skipped 5:text-behind-number "
+         "5:not-a-number 5:not-a-number 0:no-densities"},
         {"PVTO,\r\n,1,2,3,4\r\n\r\n,1,3,3,4\r\n\r\nUnits, METRIC\r\nPVTG,\r\n,2,1,3,4\r\n",
-         "0 0 0 oil 2; 3; gas 2;"},
-        {"PVTG, PSAT\n,7,1,2,3\n\nUnits, METRIC\nPVTO, Rs, PSAT, Bo, Muo\n,8,1,2,3\n",
-         "0 0 0 oil gas 7; 0 8;"},
-        {"PVTO,\n,1,2,3,4\nUnits\nPVTO,\n,1,9,3,4\n\n,no row\n,1,8,3,4\nUnits\n",
-         "0 0 0 oil 9; 8; gas"},
-        {"PVTO,\n" + million + ",1,2,3,4\n" + million + ",1,3,3,4\n", "0 0 0 oil 2; 3; gas"},
+         "0 0 0 oil 2; 3; gas 2;", "0:no-densities"},
+        {densities + "PVTG, PSAT\n,7,1,2,3\n\nUnits, METRIC\nPVTO, Rs, PSAT, Bo, Muo\n,8,1,2,3\n",
+         "800 1000 1 oil gas 7; 0 8;",
+         "8:heading-in-table 8:not-a-number 8:not-a-number 8:not-a-number 8:not-a-number"},
+        {densities + "PVTO,\n,1,2,3,4\nUnits\nPVTO,\n,1,9,3,4\n\n,no row\n,1,8,3,4\nUnits\n",
+         "800 1000 1 oil 9; 8; gas", "7:second-table 10:row-skipped"},
+        {densities + "PVTO,\n" + million + ",1,2,3,4\n" + million + ",1,3,3,4\n",
+         "800 1000 1 oil 2; 3; gas", ""},
         {"PVTO,\n,1,2,3," + std::string(1'000'000, ',') + "\n,1,3,3,4\n" +
              std::string(1'000'000, 'x'),
-         "0 0 0 oil 2 3; gas"},
+         "0 0 0 oil 2 3; gas", "2:not-a-number 4:row-skipped 0:no-densities"},
+        // What spreadsheets and people make of it.
+        {"\xEF\xBB\xBF" + densities + "PVTO,,,,\n,1,2,3,4\n,,,,\n\t,1,3,3,4\n   \n;1;4;3;4\n",
+         "800 1000 1 oil 2 0 3; gas", "6:padded-row 8:padded-row 9:other-separator"},
+        {densities + "Units, FIELD\nPVTO,\n,1,2,3,n/a\n,1,0x3,3,4\n,1,4,inf,1e999\n,1,5,-3,4\n"
+                     ",1,1O0,3,4\n,1,1,5,3,4\n",
+         "800 1000 1 oil 2 3 4 5 1 1; gas",
+         "4:other-units 6:not-a-number 7:not-finite 8:not-finite 8:not-finite 9:negative-value "
+         "10:text-behind-number 10:pressure-order 11:text-behind-number 11:pressure-order"},
+        {densities + "PVTO,\n,1,2,3,4\nPVTG,a,b,c,d\n \"PVTO\",1,2,3\nUnits\n\"PVTG\", x\n",
+         "800 1000 1 oil 2 0; gas",
+         "6:heading-in-table 6:not-a-number 6:not-a-number 6:not-a-number 6:not-a-number "
+         "6:pressure-order 7:heading-in-table 7:row-skipped 9:heading-form"},
+        {"PVTO,\rODEN,1\r", "0 0 0 oil gas", "1:carriage-returns 1:no-rows 0:no-densities"},
+        {std::string("P\0V\0T\0O\0,\0\n\0", 12), "0 0 0 oil gas", "1:utf-16 0:no-table"},
     };
+    Diagnosed diagnosed;
     for (const Case& each : cases) {
         EXPECT_EQ(Summary(Read(each.text)), each.summary) << each.text.substr(0, 80);
+        writer.SetDiagnosticSink(diagnosed.Sink());
+        std::istringstream stream(each.text);
+        EXPECT_EQ(Summary(writer.GetTableFromCSVFile(stream)), each.summary);
+        EXPECT_EQ(diagnosed.Take(), each.told) << each.text.substr(0, 80);
+        EXPECT_EQ(Summary(Read(each.text)), each.summary);
+        EXPECT_EQ(diagnosed.Take(), each.told);
+        writer.SetDiagnosticSink({});
+    }
+}
+
+TEST_F(BlackOil, TellsOfAFileThatFailsAndOfTwentyOfOneCode) {
+    Diagnosed diagnosed;
+    writer.SetDiagnosticSink(diagnosed.Sink());
+    // The block that fails is lost whole.
+    std::string text = "ODEN,1\nPVTO,\n,1,2,3,4\n";
+    text.append(200'000, '\n');
+    FailingInput failing(text, text.size());
+    std::istream stream(&failing);
+    EXPECT_EQ(Summary(writer.GetTableFromCSVFile(stream, "oil.csv")), "1 0 0 oil 2; gas");
+    EXPECT_EQ(diagnosed.All().front().file, "oil.csv");
+    EXPECT_GT(diagnosed.All().back().line, 100'000U);
+    EXPECT_EQ(diagnosed.All().back().code, "file.read-failed");
+    diagnosed.Take();
+
+    writer.GetTableFromCSVFile(folder / "missing");
+    EXPECT_EQ(diagnosed.All().front().sentence,
+              "Expected a file to read, found no file of that name.");
+    EXPECT_EQ(diagnosed.Take(), "0:cant-open");
+
+    std::string rows = "ODEN,1\nPVTO,\n,1,2,3,4\n";
+    for (int i = 0; i < 25; ++i) {
+        rows += ",1,2\n";
+    }
+    std::istringstream many(rows);
+    writer.GetTableFromCSVFile(many);
+    ASSERT_EQ(diagnosed.All().size(), 21U);
+    EXPECT_EQ(diagnosed.All().back().sentence, "5 more like this.");
+    EXPECT_EQ(diagnosed.All().back().line, 0U);
+}
+
+TEST_F(BlackOil, StreamsGetTheBytesOfFilesAndKeepTheirFormat) {
+    for (const auto form : {Writer::PVO, Writer::CSV}) {
+        std::ostringstream out;
+        out.imbue(ForeignLocale());
+        out << std::scientific << std::setprecision(3) << std::setfill('*') << std::setw(9);
+        const auto flags = out.flags();
+        writer.ExportToFile(Sample(), out, Units::FIELD, Writer::LIVE_OIL_WET_GAS, form);
+        EXPECT_EQ(out.str(), Export(Units::FIELD, Writer::LIVE_OIL_WET_GAS, form));
+        EXPECT_EQ(out.flags(), flags);
+        EXPECT_EQ(out.precision(), 3);
+        EXPECT_EQ(out.width(), 9);
+        EXPECT_EQ(out.fill(), '*');
     }
 }
 

@@ -6,18 +6,23 @@
 #include "FluidBench/Experiments/ExperimentResults.h"
 #include "FluidBench/Model/BlackOilTable.h"
 #include "FluidBench/Model/CompositionalFluid.h"
+#include "io/Diagnostics.h"
 #include "io/Export.h"
 
 #include <cstdint>
+#include <iosfwd>
 #include <string>
 
 namespace Orv::FluidBench::IO {
 
-/// Holds one option: an object may be used any number of times, by one thread at a time. The caller
-/// owns every model object; a file is open only during a call.
+/// Holds its options: an object may be used any number of times, by one thread at a time. The
+/// caller owns every model object; a file is open only during a call.
 ///
 /// A file that can't be opened for writing is reported by message 3369 with its name, and nothing
-/// is written. A write that fails afterwards, on a full disk for instance, isn't detected.
+/// is written. A write that fails afterwards, on a full disk for instance, isn't detected: whoever
+/// has to know gives a stream and asks it when it is flushed. The operations on streams write and
+/// read the same bytes as those on files; the stream belongs to the caller, and its format flags,
+/// precision, width and fill are put back.
 class FLUIDBENCH_IO_API BlackOilExportFileWriter {
 public:
     /// Form of a file: the keywords that a simulator reads, or comma-separated text that
@@ -48,6 +53,10 @@ public:
     Common::ErrorReport ExportToFile(const Model::BlackOilTable& table, const std::string& fileName,
                                      Common::Units::UNIT_TYPE units, EXPORT_TYPE exportType,
                                      FILE_TYPE fileType) const;
+    /// The same to a stream. The report is empty.
+    Common::ErrorReport ExportToFile(const Model::BlackOilTable& table, std::ostream& out,
+                                     Common::Units::UNIT_TYPE units, EXPORT_TYPE exportType,
+                                     FILE_TYPE fileType) const;
 
     /// Writes the vapour and then the liquid compositions of the stages against pressure, from the
     /// last stage back to the first, replacing an existing file. A phase that a stage lacks is
@@ -57,16 +66,27 @@ public:
                                        const Experiments::ExperimentResults& results,
                                        const std::string& fileName,
                                        Common::Units::UNIT_TYPE units) const;
+    /// The same to a stream. The report is empty.
+    Common::ErrorReport ExportXMFYMFVP(const Model::CompositionalFluid& fluid,
+                                       const Experiments::ExperimentResults& results,
+                                       std::ostream& out, Common::Units::UNIT_TYPE units) const;
+
+    /// Takes what `GetTableFromCSVFile` has to say beside its table ("blackoil..." and "file...").
+    void SetDiagnosticSink(DiagnosticSink sink);
 
     /// Reads the CSV form of `ExportToFile`. Oil rows become live oil and gas rows wet gas,
     /// whatever export type wrote them; the saturation point isn't read.
     ///
-    /// There is no failure: a file that can't be opened gives an empty table, what isn't recognised
-    /// is skipped, and a cell without a number counts as 0.0.
+    /// There is no failure: a file that can't be opened gives an empty table, one whose reading
+    /// fails the table up to there, what isn't recognised is skipped, and a cell without a number
+    /// counts as 0.0. All of that is told to the diagnostic sink.
     Model::BlackOilTable GetTableFromCSVFile(const std::string& fileName) const;
+    /// The same from a stream, which is read to its end; diagnostics call it `name`.
+    Model::BlackOilTable GetTableFromCSVFile(std::istream& in, const std::string& name = {}) const;
 
 private:
     bool highPrecision;
+    DiagnosticSink diagnosticSink;
 };
 
 } // namespace Orv::FluidBench::IO

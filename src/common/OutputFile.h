@@ -2,10 +2,12 @@
 #pragma once
 
 #include "FluidBench/Common/ErrorReport.h"
+#include "TextFile.h"
 
 #include <fstream>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace Orv::FluidBench::Impl::IO {
 
@@ -13,5 +15,16 @@ namespace Orv::FluidBench::Impl::IO {
 /// report gets message 3369 with its name, and there is nothing more to do.
 std::ofstream OpenOrReport(const std::string& fileName, Common::ErrorReport& report,
                            std::span<char> buffer = {});
+
+/// An operation on a file around the one on its stream: opens the file, calls `write` with the
+/// stream, which gives the report, and closes the file. Where it can't be opened, `write` isn't
+/// called and the report has message 3369.
+template <typename Write>
+Common::ErrorReport WriteFile(const std::string& fileName, Write write) {
+    Common::ErrorReport report;
+    std::vector<char> buffer(Text::blockSize);
+    std::ofstream out = OpenOrReport(fileName, report, buffer);
+    return out.is_open() ? write(out) : report;
+}
 
 } // namespace Orv::FluidBench::Impl::IO

@@ -12,28 +12,59 @@
 // ends a record, and a line of fewer than five cells is skipped.
 #include "io/BlackOilExportFileWriter.h"
 
+#include "CellDiagnostics.h"
+#include "Diagnostics.h"
 #include "FluidBench/Common/Units.h"
+#include "InputFile.h"
 #include "LineReader.h"
 #include "NumberText.h"
-#include "TextFile.h"
+#include "Quote.h"
 
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <utility>
 
 namespace Orv::FluidBench::IO {
 
 using Common::Units;
+using Impl::IO::Diagnostics;
+using Impl::IO::OpenOrTell;
 using Model::BlackOilDataRecords;
 using Model::BlackOilTable;
 using Text::LineReader;
-using Text::OpenForReading;
 using Text::ParseAsAtof;
+using Text::Quote;
+namespace Kinds = Impl::IO::BlackOilKinds;
 
 namespace {
 
 enum class TableKind { Oil, Gas };
+
+// Where the cells of a row stand, behind the first one, which holds nothing.
+struct Layout {
+    const char* heading;
+    std::size_t pressure;
+    std::size_t ratio;
+    std::array<const char*, 4> columns;
+};
+constexpr std::size_t volumeFactorCell = 2;
+constexpr std::size_t viscosityCell = 3;
+
+// clang-format off
+constexpr Layout oilLayout{"pvto", 1, 0, {"gas-oil ratio", "pressure", "volume factor", "viscosity"}};
+constexpr Layout gasLayout{"pvtg", 0, 1, {"pressure", "oil-gas ratio", "volume factor", "viscosity"}};
+// clang-format on
+
+constexpr const Layout& LayoutOf(TableKind kind) noexcept {
+    return kind == TableKind::Oil ? oilLayout : gasLayout;
+}
+
+constexpr Impl::IO::CellKinds cellKinds{Kinds::notANumber, Kinds::textBehindNumber,
+                                        Kinds::notFinite};
+constexpr const char* countsAsZero = "it counts as 0";
 
 // By hand, since tolower asks the program's locale.
 constexpr char ToLower(char c) noexcept {
@@ -44,7 +75,24 @@ bool IsKey(std::string_view text, std::string_view key) noexcept {
     return std::ranges::equal(text, key, {}, ToLower);
 }
 
-// The cells behind the first one, which holds nothing. The last takes the rest of the line.
+// The text without blanks and quotes around it.
+std::string_view Bare(std::string_view text) noexcept {
+    constexpr std::string_view dressing = " \t\"'";
+    const std::size_t first = text.find_first_not_of(dressing);
+    return first == std::string_view::npos
+               ? std::string_view()
+               : text.substr(first, text.find_last_not_of(dressing) - first + 1);
+}
+
+std::string_view FirstCell(std::string_view line) noexcept {
+    return line.substr(0, line.find(','));
+}
+
+bool BeginsTable(std::string_view key) noexcept {
+    return IsKey(key, oilLayout.heading) || IsKey(key, gasLayout.heading);
+}
+
+// The last cell takes the rest of the line.
 using Cells = std::array<std::string_view, 4>;
 
 std::optional<Cells> SplitRow(std::string_view line) noexcept {
@@ -62,60 +110,293 @@ std::optional<Cells> SplitRow(std::string_view line) noexcept {
     return cells;
 }
 
-BlackOilDataRecords ReadTable(LineReader& lines, TableKind kind) {
-    const bool isOil = kind == TableKind::Oil;
-    const std::size_t pressure = isOil ? 1 : 0;
-    const std::size_t ratio = isOil ? 0 : 1;
+struct Row {
+    double pressure; // Pa
+    double ratio;
+    double volumeFactor;
+    double viscosity; // Pa.s
+};
+
+Row ReadRow(const Cells& cells, const Layout& layout) noexcept {
+    return {Units::Pressure_bar_To_Pa(ParseAsAtof(cells[layout.pressure])),
+            ParseAsAtof(cells[layout.ratio]), ParseAsAtof(cells[volumeFactorCell]),
+            Units::Viscosity_cp_To_Pas(ParseAsAtof(cells[viscosityCell]))};
+}
+
+// Looks at what the reader takes or passes over, and tells of what may not be meant so. It is asked
+// only when somebody listens.
+class Watch {
+public:
+    Watch(Diagnostics& diagnostics, const LineReader& lines)
+        : diagnostics_(diagnostics), lines_(lines) {}
+
+    void AtTopLevel(std::string_view line);
+    void BeginTable(TableKind kind);
+    void EndTable();
+    void BeginRecord() { previousPressure_.reset(); }
+    void SkippedRow(std::string_view line);
+    void TakenRow(std::string_view line, const Cells& cells, const Row& row);
+    void Density(std::string_view name, std::string_view value);
+    void EndFile();
+
+private:
+    void LookForHeading(std::string_view line);
+    void Tell(const Impl::IO::DiagnosticKind& kind, const std::string& sentence) {
+        diagnostics_.Tell(kind, lines_.Number(), sentence);
+    }
+
+    Diagnostics& diagnostics_;
+    const LineReader& lines_;
+    const Layout* layout_ = &oilLayout;
+    std::optional<double> previousPressure_; // in the record
+    std::uint64_t heading_ = 0;              // its line
+    std::array<bool, 2> hadTable_{};
+    bool hasRows_ = false;
+    bool hasDensity_ = false;
+};
+
+void Watch::AtTopLevel(std::string_view line) {
+    const std::string_view key = FirstCell(line);
+    const std::string_view bare = Bare(key);
+    const bool isForeignForm = bare.size() != key.size();
+    if (isForeignForm &&
+        (BeginsTable(bare) || IsKey(bare, "oden") || IsKey(bare, "wden") || IsKey(bare, "gden"))) {
+        Tell(Kinds::headingForm, "Expected the key without blanks or quotes around it, found " +
+                                     Quote(key) + "; the line doesn't count.");
+    }
+    if (IsKey(bare, "units") && line.size() > key.size()) {
+        const std::string_view system = Bare(line.substr(key.size() + 1));
+        if (!IsKey(system, "metric")) {
+            Tell(Kinds::otherUnits, "Expected 'METRIC', found " + Quote(system) +
+                                        "; the numbers are taken as metric all the same.");
+        }
+    }
+}
+
+void Watch::BeginTable(TableKind kind) {
+    bool& hadTable = hadTable_[static_cast<std::size_t>(kind)];
+    if (hadTable) {
+        Tell(Kinds::secondTable, std::string("Expected one table of its kind, found a second one, "
+                                             "which replaces the first."));
+    }
+    hadTable = true;
+    layout_ = &LayoutOf(kind);
+    heading_ = lines_.Number();
+    hasRows_ = false;
+    BeginRecord();
+}
+
+void Watch::EndTable() {
+    if (!hasRows_) {
+        diagnostics_.Tell(Kinds::noRows, heading_,
+                          "Expected rows of five cells below the heading, found none.");
+    }
+}
+
+void Watch::LookForHeading(std::string_view line) {
+    const std::string_view key = Bare(FirstCell(line));
+    if (BeginsTable(key)) {
+        Tell(Kinds::headingInTable,
+             "Expected a row of the table that begins on line " + std::to_string(heading_) +
+                 ", found the heading " + Quote(key) +
+                 ": what is below counts as more of that table. A table ends at a line with "
+                 "'Units', and the gas table at the end of the file.");
+    }
+    if (layout_ == &gasLayout && IsKey(key, "units")) {
+        AtTopLevel(line);
+    }
+}
+
+void Watch::SkippedRow(std::string_view line) {
+    LookForHeading(line);
+    const bool closesFile =
+        line == "FILEUNIT" || line == "METRIC" || line == "FIELD" || line == "/";
+    const bool isUnits = IsKey(Bare(FirstCell(line)), "units");
+    if (closesFile || isUnits) {
+        return;
+    }
+    if (Bare(line).empty()) {
+        Tell(Kinds::paddedRow,
+             "Expected a row or an empty line, found blanks alone; the line ends no record.");
+        return;
+    }
+    if (line.find(',') == std::string_view::npos &&
+        line.find_first_of(";\t|") != std::string_view::npos) {
+        Tell(Kinds::otherSeparator,
+             "Expected cells parted by commas, found " + Quote(line) + "; the row was skipped.");
+    } else {
+        Tell(Kinds::rowSkipped, "Expected five cells, found " +
+                                    std::to_string(1 + std::ranges::count(line, ',')) + " in " +
+                                    Quote(line) + "; the row was skipped.");
+    }
+}
+
+void Watch::TakenRow(std::string_view line, const Cells& cells, const Row& row) {
+    LookForHeading(line);
+    hasRows_ = true;
+    if (line.find_first_not_of(", \t\"") == std::string_view::npos) {
+        Tell(Kinds::paddedRow, "Expected a row of numbers, found separators alone; it counts as a "
+                               "row of zeros. An empty line ends a record, so delete what is on "
+                               "this one.");
+        return;
+    }
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        TellCell(diagnostics_, cellKinds, lines_.Number(), layout_->columns[i], cells[i],
+                 countsAsZero);
+    }
+    const double smallest = std::min({row.pressure, row.ratio, row.volumeFactor, row.viscosity});
+    if (smallest < 0.0) {
+        Tell(Kinds::negativeValue,
+             "Expected values of zero or more, found a negative one in " + Quote(line) + ".");
+    }
+    // All rows of a gas record may have the same pressure.
+    const bool isOil = layout_ == &oilLayout;
+    if (previousPressure_ &&
+        (row.pressure < *previousPressure_ || (isOil && row.pressure == *previousPressure_))) {
+        Tell(Kinds::pressureOrder, std::string("Expected a pressure ") +
+                                       (isOil ? "above" : "no less than") +
+                                       " that of the row ahead in the same record, found " +
+                                       Quote(cells[layout_->pressure]) + ".");
+    }
+    previousPressure_ = row.pressure;
+}
+
+void Watch::Density(std::string_view name, std::string_view value) {
+    hasDensity_ = true;
+    TellCell(diagnostics_, cellKinds, lines_.Number(), std::string(name) + " density", value,
+             countsAsZero);
+    if (ParseAsAtof(value) < 0.0) {
+        Tell(Kinds::negativeValue, "Expected a density above zero, found " + Quote(value) + ".");
+    }
+}
+
+void Watch::EndFile() {
+    if (!hadTable_[0] && !hadTable_[1]) {
+        diagnostics_.Tell(Kinds::noTable, 0,
+                          "Expected a line that begins with 'PVTO,' or 'PVTG,', found none.");
+    } else if (!hasDensity_) {
+        diagnostics_.Tell(Kinds::noDensities, 0,
+                          "Expected lines that begin with 'ODEN,' and 'GDEN,', found none ahead of "
+                          "the tables.");
+    }
+}
+
+class CsvReader {
+public:
+    CsvReader(std::istream& in, Diagnostics& diagnostics)
+        : lines_(in), diagnostics_(diagnostics), watch_(diagnostics, lines_) {}
+
+    BlackOilTable Read();
+
+private:
+    void ReadLine(std::string_view line, BlackOilTable& table);
+    BlackOilDataRecords ReadTable(TableKind kind);
+
+    LineReader lines_;
+    Diagnostics& diagnostics_;
+    Watch watch_;
+};
+
+BlackOilTable CsvReader::Read() {
+    TellOddText(diagnostics_, lines_.Kind());
+    BlackOilTable table;
+    for (std::string_view line; lines_.Next(line);) {
+        if (diagnostics_.AreWanted()) {
+            watch_.AtTopLevel(line);
+        }
+        ReadLine(line, table);
+    }
+    if (lines_.HasFailed()) {
+        TellReadFailed(diagnostics_, lines_.Number());
+    } else {
+        watch_.EndFile();
+    }
+    return table;
+}
+
+void CsvReader::ReadLine(std::string_view line, BlackOilTable& table) {
+    struct DensityLine {
+        const char* key;
+        const char* name;
+        void (BlackOilTable::*set)(double);
+    };
+    static constexpr DensityLine densities[] = {{"oden", "oil", &BlackOilTable::SetOilDensity},
+                                                {"wden", "water", &BlackOilTable::SetWaterDensity},
+                                                {"gden", "gas", &BlackOilTable::SetGasDensity}};
+    const std::size_t comma = line.find(',');
+    if (comma == std::string_view::npos) {
+        return;
+    }
+    const std::string_view key = line.substr(0, comma);
+    const std::string_view value = line.substr(comma + 1);
+    for (const DensityLine& density : densities) {
+        if (IsKey(key, density.key)) {
+            (table.*density.set)(ParseAsAtof(value));
+            watch_.Density(density.name, value);
+        }
+    }
+    if (IsKey(key, oilLayout.heading)) {
+        table.SetLiveOilData(ReadTable(TableKind::Oil));
+    } else if (IsKey(key, gasLayout.heading)) {
+        table.SetWetGasData(ReadTable(TableKind::Gas));
+    }
+}
+
+BlackOilDataRecords CsvReader::ReadTable(TableKind kind) {
+    const Layout& layout = LayoutOf(kind);
+    const bool isWatched = diagnostics_.AreWanted();
+    watch_.BeginTable(kind);
     BlackOilDataRecords records;
     std::uint64_t record = 0;
     bool recordHasRows = false;
-    std::string_view line;
-    while (lines.Next(line)) {
+    for (std::string_view line; lines_.Next(line);) {
         if (line.empty()) {
             // More empty lines, or one ahead of the first row, end nothing: records have no gaps.
             record += recordHasRows ? 1 : 0;
             recordHasRows = false;
-        } else if (isOil && line.find("Units") != std::string_view::npos) {
+            watch_.BeginRecord();
+        } else if (kind == TableKind::Oil && line.find("Units") != std::string_view::npos) {
+            if (isWatched) {
+                watch_.AtTopLevel(line);
+            }
             break;
         } else if (const auto cells = SplitRow(line)) {
-            records.AddEntry(record, Units::Pressure_bar_To_Pa(ParseAsAtof((*cells)[pressure])),
-                             ParseAsAtof((*cells)[ratio]), ParseAsAtof((*cells)[2]),
-                             Units::Viscosity_cp_To_Pas(ParseAsAtof((*cells)[3])));
+            const Row row = ReadRow(*cells, layout);
+            records.AddEntry(record, row.pressure, row.ratio, row.volumeFactor, row.viscosity);
             recordHasRows = true;
+            if (isWatched) {
+                watch_.TakenRow(line, *cells, row);
+            }
+        } else if (isWatched) {
+            watch_.SkippedRow(line);
         }
     }
+    watch_.EndTable();
     return records;
 }
 
 } // namespace
 
+void BlackOilExportFileWriter::SetDiagnosticSink(DiagnosticSink sink) {
+    diagnosticSink = std::move(sink);
+}
+
 BlackOilTable BlackOilExportFileWriter::GetTableFromCSVFile(const std::string& fileName) const {
+    Diagnostics diagnostics(diagnosticSink, fileName);
+    std::ifstream file = OpenOrTell(fileName, diagnostics);
     BlackOilTable table;
-    std::ifstream file = OpenForReading(fileName);
-    if (!file.is_open()) {
-        return table;
+    if (file.is_open()) {
+        table = CsvReader(file, diagnostics).Read();
     }
-    LineReader lines(file);
-    std::string_view line;
-    while (lines.Next(line)) {
-        const std::size_t comma = line.find(',');
-        if (comma == std::string_view::npos) {
-            continue;
-        }
-        const std::string_view key = line.substr(0, comma);
-        const std::string_view value = line.substr(comma + 1);
-        if (IsKey(key, "oden")) {
-            table.SetOilDensity(ParseAsAtof(value));
-        } else if (IsKey(key, "wden")) {
-            table.SetWaterDensity(ParseAsAtof(value));
-        } else if (IsKey(key, "gden")) {
-            table.SetGasDensity(ParseAsAtof(value));
-        } else if (IsKey(key, "pvto")) {
-            table.SetLiveOilData(ReadTable(lines, TableKind::Oil));
-        } else if (IsKey(key, "pvtg")) {
-            table.SetWetGasData(ReadTable(lines, TableKind::Gas));
-        }
-    }
+    diagnostics.Finish();
+    return table;
+}
+
+BlackOilTable BlackOilExportFileWriter::GetTableFromCSVFile(std::istream& in,
+                                                            const std::string& name) const {
+    Diagnostics diagnostics(diagnosticSink, name);
+    BlackOilTable table = CsvReader(in, diagnostics).Read();
+    diagnostics.Finish();
     return table;
 }
 

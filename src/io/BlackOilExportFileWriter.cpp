@@ -15,9 +15,8 @@
 #include "DeckText.h"
 #include "NumberText.h"
 #include "OutputFile.h"
-#include "TextFile.h"
+#include "StreamFormat.h"
 
-#include <fstream>
 #include <ios>
 #include <memory>
 #include <ranges>
@@ -30,13 +29,13 @@ using Common::Phase;
 using Common::Units;
 using Experiments::ExperimentResults;
 using Experiments::Stage;
-using Impl::IO::OpenOrReport;
+using Impl::IO::WriteFile;
 using Model::BlackOilDataRecords;
 using Model::BlackOilTable;
 using Model::CompositionalFluid;
 using Text::AppendNumber;
-using Text::blockSize;
 using Text::NumberFormat;
+using Text::StreamFormat;
 
 namespace {
 
@@ -112,12 +111,15 @@ ErrorReport BlackOilExportFileWriter::ExportToFile(const BlackOilTable& table,
                                                    const std::string& fileName,
                                                    Units::UNIT_TYPE units, EXPORT_TYPE exportType,
                                                    FILE_TYPE fileType) const {
-    ErrorReport report;
-    std::vector<char> buffer(blockSize);
-    std::ofstream out = OpenOrReport(fileName, report, buffer);
-    if (!out.is_open()) {
-        return report;
-    }
+    return WriteFile(fileName, [&](std::ostream& out) {
+        return ExportToFile(table, out, units, exportType, fileType);
+    });
+}
+
+ErrorReport BlackOilExportFileWriter::ExportToFile(const BlackOilTable& table, std::ostream& out,
+                                                   Units::UNIT_TYPE units, EXPORT_TYPE exportType,
+                                                   FILE_TYPE fileType) const {
+    const StreamFormat format(out);
     out << std::fixed;
     out.precision(highPrecision ? decimalsOfHighPrecision : decimalsOfTables);
     const auto formatter = MakeFormatter(fileType, units, exportType);
@@ -150,18 +152,22 @@ ErrorReport BlackOilExportFileWriter::ExportToFile(const BlackOilTable& table,
     out << '\n';
 
     out << FileUnitHeader(units == Units::METRIC);
-    return report;
+    return {};
 }
 
 ErrorReport BlackOilExportFileWriter::ExportXMFYMFVP(const CompositionalFluid& fluid,
                                                      const ExperimentResults& results,
                                                      const std::string& fileName,
                                                      Units::UNIT_TYPE units) const {
-    ErrorReport report;
-    std::ofstream out = OpenOrReport(fileName, report);
-    if (!out.is_open()) {
-        return report;
-    }
+    return WriteFile(fileName,
+                     [&](std::ostream& out) { return ExportXMFYMFVP(fluid, results, out, units); });
+}
+
+ErrorReport BlackOilExportFileWriter::ExportXMFYMFVP(const CompositionalFluid& fluid,
+                                                     const ExperimentResults& results,
+                                                     std::ostream& out,
+                                                     Units::UNIT_TYPE units) const {
+    const StreamFormat streamFormat(out);
     const NumberFormat format{std::chars_format::fixed,
                               highPrecision ? decimalsOfHighPrecision : decimalsOfCompositions};
     const bool isField = units == Units::FIELD;
@@ -174,7 +180,7 @@ ErrorReport BlackOilExportFileWriter::ExportXMFYMFVP(const CompositionalFluid& f
     out << unitLine << "XMFVP\n-- \n-- Liquid Composition vs Pressure\n-- \n";
     WriteCompositions(out, results.Stages, &Stage::LiquidPhase, zeros, convert, format);
     out << '\n' << FileUnitHeader(units == Units::METRIC);
-    return report;
+    return {};
 }
 
 } // namespace Orv::FluidBench::IO

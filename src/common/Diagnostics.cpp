@@ -1,0 +1,61 @@
+#include "Diagnostics.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace Orv::FluidBench::Impl::IO {
+
+using FluidBench::IO::DiagnosticSink;
+using Text::TextKind;
+
+Diagnostics::Diagnostics(const DiagnosticSink& sink, std::string file)
+    : sink_(sink), areWanted_(static_cast<bool>(sink)), file_(std::move(file)) {}
+
+void Diagnostics::Tell(const DiagnosticKind& kind, std::uint64_t line,
+                       const std::string& sentence) {
+    if (!areWanted_) {
+        return;
+    }
+    auto count = std::ranges::find(counts_, &kind, &Count::kind);
+    if (count == counts_.end()) {
+        count = counts_.insert(count, {&kind, 0});
+    }
+    if (++count->number <= mostOfOneKind) {
+        sink_({kind.severity, file_, line, kind.code, sentence});
+    }
+}
+
+void Diagnostics::Finish() {
+    for (const auto& [kind, number] : counts_) {
+        if (number > mostOfOneKind) {
+            sink_({kind->severity, file_, 0, kind->code,
+                   std::to_string(number - mostOfOneKind) + " more like this."});
+        }
+    }
+    counts_.clear();
+}
+
+void TellOddText(Diagnostics& diagnostics, TextKind kind) {
+    switch (kind) {
+    case TextKind::Plain:
+        break;
+    case TextKind::Utf16:
+        diagnostics.Tell(Kinds::utf16, 1,
+                         "Expected text in UTF-8 or ASCII, found what looks like UTF-16: save the "
+                         "file as UTF-8.");
+        break;
+    case TextKind::CarriageReturns:
+        diagnostics.Tell(Kinds::carriageReturns, 1,
+                         "Expected lines that end in newlines, found carriage returns alone: save "
+                         "the file with other line ends.");
+        break;
+    }
+}
+
+void TellReadFailed(Diagnostics& diagnostics, std::uint64_t line) {
+    diagnostics.Tell(Kinds::readFailed, line,
+                     "Expected to read on, found a failure of the file or its disk; what is behind "
+                     "this line wasn't read.");
+}
+
+} // namespace Orv::FluidBench::Impl::IO

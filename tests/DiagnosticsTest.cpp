@@ -1,0 +1,39 @@
+// The page of the diagnostics and the codes in the sources, held to each other.
+#include "TestSupport.h"
+
+#include <map>
+#include <regex>
+
+using namespace FluidBenchTest;
+
+namespace {
+
+using CodesAndSeverities = std::map<std::string, std::string>;
+
+CodesAndSeverities Find(const std::string& text, const char* pattern) {
+    CodesAndSeverities found;
+    const std::regex expression(pattern);
+    for (std::sregex_iterator match(text.begin(), text.end(), expression), end; match != end;
+         ++match) {
+        std::string severity = (*match)[2];
+        severity[0] = static_cast<char>(severity[0] | 0x20); // small
+        EXPECT_TRUE(found.emplace((*match)[1], severity).second) << (*match)[1] << " twice";
+    }
+    return found;
+}
+
+TEST(Diagnostics, EveryCodeIsOnThePageAndEveryCodeOfThePageExists) {
+    const std::string folder = FLUIDBENCH_PROJECT_FOLDER;
+    const auto onPage = Find(ReadFile(folder + "/docs/diagnostics.md"),
+                             R"(\| `([a-z]+\.[a-z0-9-]+)` \| (note|warning|error) \|)");
+    CodesAndSeverities inSources;
+    for (const char* const table : {"/src/common/DiagnosticKinds.h"}) {
+        inSources.merge(
+            Find(ReadFile(folder + table),
+                 R"lit(\{"([a-z]+\.[a-z0-9-]+)",\s*(?:\w+::)*(Note|Warning|Error))lit"));
+    }
+    EXPECT_GT(onPage.size(), 10U);
+    EXPECT_EQ(onPage, inSources);
+}
+
+} // namespace

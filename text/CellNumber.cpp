@@ -1,0 +1,54 @@
+#include "CellNumber.h"
+
+#include "Characters.h"
+#include "NumberText.h"
+
+#include <charconv>
+#include <cmath>
+#include <system_error>
+
+namespace Orv::Text {
+
+namespace {
+
+std::string_view WithoutBlanks(std::string_view text) noexcept {
+    constexpr std::string_view blanks = " \t\r\v\f\n";
+    const std::size_t first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+} // namespace
+
+CellContent LookAtCell(std::string_view cell) noexcept {
+    std::string_view text = WithoutBlanks(cell);
+    if (text.empty()) {
+        return CellContent::Nothing;
+    }
+    if (text[0] == '+' || text[0] == '-') {
+        text.remove_prefix(1);
+    }
+    if (text.starts_with("0x") || text.starts_with("0X")) {
+        return CellContent::Hexadecimal;
+    }
+    double number = 0.0;
+    const char* const end = text.data() + text.size();
+    const auto [behind, error] = std::from_chars(text.data(), end, number);
+    const bool hasSecondSign = text.starts_with('-');
+    if (error == std::errc::invalid_argument || hasSecondSign) {
+        return CellContent::NoNumber;
+    }
+    const bool isWord = IsLetter(text[0]);
+    if (behind != end) {
+        // "info" begins like an infinity and isn't meant as one.
+        return isWord ? CellContent::NoNumber : CellContent::TextBehind;
+    }
+    // What is too small for a double is as good as zero; the reader knows which it was.
+    const bool isFinite = error == std::errc::result_out_of_range ? std::isfinite(ParseAsAtof(text))
+                                                                  : std::isfinite(number);
+    return isFinite ? CellContent::Number : CellContent::NotFinite;
+}
+
+} // namespace Orv::Text
