@@ -7,7 +7,13 @@ namespace Orv::Kes::SimFluid {
 
 StdDepthTable::StdDepthTable() = default;
 StdDepthTable::StdDepthTable(const StdDepthTable&) = default;
-StdDepthTable& StdDepthTable::operator=(const StdDepthTable&) = default;
+StdDepthTable& StdDepthTable::operator=(const StdDepthTable& other) {
+    StdDepthTable copy(other);
+    columns_ = copy.columns_;
+    depths_.swap(copy.depths_);
+    values_.swap(copy.values_);
+    return *this;
+}
 StdDepthTable::~StdDepthTable() = default;
 
 std::size_t StdDepthTable::Row(int row) const {
@@ -47,8 +53,9 @@ void StdDepthTable::clear(int columns) {
 }
 
 void StdDepthTable::addRow(double depth) {
+    // The zeros first: without the depth, nobody sees them.
+    values_.resize((depths_.size() + 1) * static_cast<std::size_t>(columns_), 0.0);
     depths_.push_back(depth);
-    values_.resize(depths_.size() * static_cast<std::size_t>(columns_), 0.0);
 }
 
 void StdDepthTable::setValue(int row, int column, double value) {

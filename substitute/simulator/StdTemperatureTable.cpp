@@ -1,5 +1,7 @@
 #include "Kes/SimFluid/StdTemperatureTable.h"
 
+#include <utility>
+
 namespace Orv::Kes::SimFluid {
 
 namespace {
@@ -13,23 +15,32 @@ std::size_t Index(int number) noexcept {
 
 StdTemperatureTable::StdTemperatureTable() = default;
 StdTemperatureTable::StdTemperatureTable(const StdTemperatureTable&) = default;
-StdTemperatureTable& StdTemperatureTable::operator=(const StdTemperatureTable&) = default;
+StdTemperatureTable& StdTemperatureTable::operator=(const StdTemperatureTable& other) {
+    StdTemperatureTable copy(other);
+    components_ = copy.components_;
+    temperatures_.swap(copy.temperatures_);
+    properties_.swap(copy.properties_);
+    return *this;
+}
 StdTemperatureTable::~StdTemperatureTable() = default;
 
 int StdTemperatureTable::getNumTemperatures() const {
     return static_cast<int>(temperatures_.size());
 }
 void StdTemperatureTable::setNumTemperatures(int count) {
-    temperatures_.resize(Index(count));
+    temperatures_.reserve(Index(count));
     properties_.resize(Index(count), std::vector<double>(components_));
+    temperatures_.resize(Index(count));
 }
 int StdTemperatureTable::getNumComponents() const {
     return static_cast<int>(components_);
 }
 void StdTemperatureTable::setNumComponents(int count) {
-    for (std::vector<double>& row : properties_) {
+    std::vector<std::vector<double>> properties = properties_;
+    for (std::vector<double>& row : properties) {
         row.resize(Index(count));
     }
+    properties_ = std::move(properties);
     components_ = Index(count);
 }
 double StdTemperatureTable::getTemperature(int row) const {

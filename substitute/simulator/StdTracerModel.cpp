@@ -36,7 +36,10 @@ void StdTracerModel::setComponentName(const std::string& name) {
 }
 
 IDepthTable& StdTracerModel::makeDepthTable(int type) {
-    return depthTables_[type].emplace_back();
+    std::list<StdDepthTable> made(1);
+    std::list<StdDepthTable>& tables = depthTables_[type];
+    tables.splice(tables.end(), made);
+    return tables.back();
 }
 IDepthTable& StdTracerModel::getDepthTable(int type, int index) {
     return *At(depthTables_, type, index);

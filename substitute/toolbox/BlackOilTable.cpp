@@ -14,7 +14,9 @@ namespace Orv::FluidBench::Model {
 BlackOilDataRecords::BlackOilDataRecords() = default;
 BlackOilDataRecords::BlackOilDataRecords(const BlackOilDataRecords&) = default;
 BlackOilDataRecords::BlackOilDataRecords(BlackOilDataRecords&&) noexcept = default;
-BlackOilDataRecords& BlackOilDataRecords::operator=(const BlackOilDataRecords&) = default;
+BlackOilDataRecords& BlackOilDataRecords::operator=(const BlackOilDataRecords& other) {
+    return *this = BlackOilDataRecords(other);
+}
 BlackOilDataRecords& BlackOilDataRecords::operator=(BlackOilDataRecords&&) noexcept = default;
 BlackOilDataRecords::~BlackOilDataRecords() = default;
 
@@ -71,7 +73,9 @@ std::uint64_t BlackOilDataRecords::AddRecord(std::span<const Entry> entries) {
 BlackOilTable::BlackOilTable() = default;
 BlackOilTable::BlackOilTable(const BlackOilTable&) = default;
 BlackOilTable::BlackOilTable(BlackOilTable&&) noexcept = default;
-BlackOilTable& BlackOilTable::operator=(const BlackOilTable&) = default;
+BlackOilTable& BlackOilTable::operator=(const BlackOilTable& other) {
+    return *this = BlackOilTable(other);
+}
 BlackOilTable& BlackOilTable::operator=(BlackOilTable&&) noexcept = default;
 BlackOilTable::~BlackOilTable() = default;
 

@@ -1,6 +1,8 @@
 // Completes a fluid by what follows from its own numbers, without any correlation.
 #include "FluidBench/Model/Characterisation.h"
 
+#include <utility>
+
 namespace Orv::FluidBench::Model {
 
 using Common::pvtEnumPropertySource;
@@ -46,14 +48,16 @@ Characterisation::~Characterisation() = default;
 
 Common::ErrorReport Characterisation::CharacteriseFor(CompositionalFluid& fluid,
                                                       const CharacterisationControl&) const {
+    CompositionalFluid completed = fluid;
     for (FluidComponent component : fluid.GetOrderedComponents()) {
         CompleteCriticalPoint(component);
         if (IsMissing(component.GetVcritViscositySource(), component.GetVcritViscosity()) &&
             !IsMissing(component.GetVcritSource(), component.GetVcrit())) {
             component.SetVcritViscosity(component.GetVcrit());
         }
-        fluid.SetComponent(component, fluid.GetComponentFraction(component.GetName()));
+        completed.SetComponent(component, fluid.GetComponentFraction(component.GetName()));
     }
+    fluid = std::move(completed);
     return {};
 }
 

@@ -3,11 +3,13 @@
 
 #include "CompositionalFluidCommand.h"
 #include "FluidBench/Common/Exceptions.h"
+#include "Room.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <stdexcept>
+#include <utility>
 
 namespace Orv::FluidBench::Impl::Command {
 
@@ -69,16 +71,27 @@ void CompositionalFluidCommand::SetComponent(const Model::FluidComponent& compon
                                     componentName + "'");
     }
     const std::size_t index = components_.size();
-    components_.push_back({component, fraction, componentName});
-    indexOfName_.emplace(componentName, index);
-    indexOfGlobalName_.emplace(componentName, index);
+    Entry entry{component, fraction, componentName};
+    MakeRoomForOneMore(components_);
+    const auto place = indexOfName_.emplace(componentName, index).first;
+    try {
+        indexOfGlobalName_.emplace(componentName, index);
+    } catch (...) {
+        indexOfName_.erase(place);
+        throw;
+    }
+    components_.push_back(std::move(entry));
 }
 
 void CompositionalFluidCommand::SetGlobalName(std::size_t index, const std::string& globalName) {
-    Entry& entry = components_[index];
-    indexOfGlobalName_.erase(entry.globalName);
-    indexOfGlobalName_[globalName] = index;
-    entry.globalName = globalName;
+    std::string& current = components_[index].globalName;
+    if (globalName == current) {
+        return;
+    }
+    std::string next = globalName;
+    indexOfGlobalName_.emplace(next, index);
+    indexOfGlobalName_.erase(current);
+    current = std::move(next);
 }
 
 std::optional<double> CompositionalFluidCommand::Coefficient(const std::string& first,

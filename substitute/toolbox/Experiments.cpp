@@ -11,7 +11,9 @@ namespace Orv::FluidBench::Experiments {
 ExperimentResults::ExperimentResults() = default;
 ExperimentResults::ExperimentResults(const ExperimentResults&) = default;
 ExperimentResults::ExperimentResults(ExperimentResults&&) noexcept = default;
-ExperimentResults& ExperimentResults::operator=(const ExperimentResults&) = default;
+ExperimentResults& ExperimentResults::operator=(const ExperimentResults& other) {
+    return *this = ExperimentResults(other);
+}
 ExperimentResults& ExperimentResults::operator=(ExperimentResults&&) noexcept = default;
 ExperimentResults::~ExperimentResults() = default;
 
@@ -35,7 +37,9 @@ ExperimentResults MSTExperiment::RunExperiment(const Model::CompositionalFluid& 
 ObservedExperiment::ObservedExperiment(ExperimentType type) : type_(type) {}
 ObservedExperiment::ObservedExperiment(const ObservedExperiment&) = default;
 ObservedExperiment::ObservedExperiment(ObservedExperiment&&) noexcept = default;
-ObservedExperiment& ObservedExperiment::operator=(const ObservedExperiment&) = default;
+ObservedExperiment& ObservedExperiment::operator=(const ObservedExperiment& other) {
+    return *this = ObservedExperiment(other);
+}
 ObservedExperiment& ObservedExperiment::operator=(ObservedExperiment&&) noexcept = default;
 ObservedExperiment::~ObservedExperiment() = default;
 

@@ -10,7 +10,9 @@ KValuesTable::KValuesTable(std::vector<std::string> components)
     : components_(std::move(components)) {}
 KValuesTable::KValuesTable(const KValuesTable&) = default;
 KValuesTable::KValuesTable(KValuesTable&&) noexcept = default;
-KValuesTable& KValuesTable::operator=(const KValuesTable&) = default;
+KValuesTable& KValuesTable::operator=(const KValuesTable& other) {
+    return *this = KValuesTable(other);
+}
 KValuesTable& KValuesTable::operator=(KValuesTable&&) noexcept = default;
 KValuesTable::~KValuesTable() = default;
 

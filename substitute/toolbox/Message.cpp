@@ -55,7 +55,9 @@ Message::Message(pvtEnumErrorType type, pvtEnumErrorCode code, std::int32_t id,
 Message::~Message() = default;
 Message::Message(const Message&) = default;
 Message::Message(Message&&) noexcept = default;
-Message& Message::operator=(const Message&) = default;
+Message& Message::operator=(const Message& other) {
+    return *this = Message(other);
+}
 Message& Message::operator=(Message&&) noexcept = default;
 
 void Message::formMessage() {
@@ -83,7 +85,9 @@ ErrorReport::ErrorReport() = default;
 ErrorReport::ErrorReport(ErrorReport&&) noexcept = default;
 ErrorReport& ErrorReport::operator=(ErrorReport&&) noexcept = default;
 ErrorReport::ErrorReport(const ErrorReport&) = default;
-ErrorReport& ErrorReport::operator=(const ErrorReport&) = default;
+ErrorReport& ErrorReport::operator=(const ErrorReport& other) {
+    return *this = ErrorReport(other);
+}
 ErrorReport::~ErrorReport() = default;
 
 void ErrorReport::Add(const Message& message) {

@@ -24,7 +24,9 @@ Line::Line(std::string name, std::vector<double> x, std::vector<double> y, Type 
 
 Line::Line(const Line&) = default;
 Line::Line(Line&&) noexcept = default;
-Line& Line::operator=(const Line&) = default;
+Line& Line::operator=(const Line& other) {
+    return *this = Line(other);
+}
 Line& Line::operator=(Line&&) noexcept = default;
 Line::~Line() = default;
 
@@ -56,15 +58,18 @@ PTline::PTline(PTlineIdentifier identifier, double fraction)
     : identifier_(identifier), fraction_(fraction) {}
 PTline::PTline(const PTline&) = default;
 PTline::PTline(PTline&&) noexcept = default;
-PTline& PTline::operator=(const PTline&) = default;
+PTline& PTline::operator=(const PTline& other) {
+    return *this = PTline(other);
+}
 PTline& PTline::operator=(PTline&&) noexcept = default;
 PTline::~PTline() = default;
 
 void PTline::SetLine(const std::vector<double>& pressures,
                      const std::vector<double>& temperatures) {
     const auto points = std::min(std::ssize(pressures), std::ssize(temperatures));
-    pressures_.assign(pressures.begin(), pressures.begin() + points);
+    std::vector<double> first(pressures.begin(), pressures.begin() + points);
     temperatures_.assign(temperatures.begin(), temperatures.begin() + points);
+    pressures_ = std::move(first);
 }
 
 PTline::PTlineIdentifier PTline::GetLineType() const noexcept {
@@ -87,7 +92,9 @@ CommonPlottingObject::CommonPlottingObject(AxisType xAxis, AxisType yAxis)
     : xAxis_(xAxis), yAxis_(yAxis) {}
 CommonPlottingObject::CommonPlottingObject(const CommonPlottingObject&) = default;
 CommonPlottingObject::CommonPlottingObject(CommonPlottingObject&&) noexcept = default;
-CommonPlottingObject& CommonPlottingObject::operator=(const CommonPlottingObject&) = default;
+CommonPlottingObject& CommonPlottingObject::operator=(const CommonPlottingObject& other) {
+    return *this = CommonPlottingObject(other);
+}
 CommonPlottingObject& CommonPlottingObject::operator=(CommonPlottingObject&&) noexcept = default;
 CommonPlottingObject::~CommonPlottingObject() = default;
 

@@ -8,7 +8,9 @@ namespace Orv::FluidBench::Model {
 ThermalExportTable::ThermalExportTable() = default;
 ThermalExportTable::ThermalExportTable(const ThermalExportTable&) = default;
 ThermalExportTable::ThermalExportTable(ThermalExportTable&&) noexcept = default;
-ThermalExportTable& ThermalExportTable::operator=(const ThermalExportTable&) = default;
+ThermalExportTable& ThermalExportTable::operator=(const ThermalExportTable& other) {
+    return *this = ThermalExportTable(other);
+}
 ThermalExportTable& ThermalExportTable::operator=(ThermalExportTable&&) noexcept = default;
 ThermalExportTable::~ThermalExportTable() = default;
 

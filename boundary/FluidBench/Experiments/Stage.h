@@ -12,8 +12,15 @@ namespace Orv::FluidBench::Experiments {
 /// The `FluidState` of a stage that holds an oil-like fluid.
 inline constexpr std::int32_t oilLikeFluidState = 2;
 
-/// A value; copies share nothing.
+/// A value; copies share nothing. An assignment that fails leaves the stage as it was.
 struct Stage {
+    Stage() = default;
+    Stage(const Stage&) = default;
+    Stage(Stage&&) noexcept = default;
+    Stage& operator=(const Stage& other) { return *this = Stage(other); }
+    Stage& operator=(Stage&&) noexcept = default;
+    ~Stage() = default;
+
     Common::Phase VapourPhase;
     Common::Phase LiquidPhase;
     StageResultsHandle Results;

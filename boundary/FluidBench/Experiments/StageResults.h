@@ -3,8 +3,6 @@
 
 #include "FluidBench/Common/Result.h"
 
-#include <memory>
-
 namespace Orv::FluidBench::Experiments {
 
 /// The numbers of a stage. None of them is set in a new record.
@@ -18,25 +16,17 @@ struct StageResults {
     Common::Result GasOilRatio;        ///< m3/m3
 };
 
-/// Owns one record of results, always, and copies it when it is copied.
+/// Owns one record of results, always, and copies it when it is copied. The record stands inside
+/// the handle, so no stage needs memory for it, and moving one can't fail.
 class StageResultsHandle {
 public:
-    StageResultsHandle() : results_(std::make_unique<StageResults>()) {}
-    StageResultsHandle(const StageResultsHandle& other)
-        : results_(std::make_unique<StageResults>(*other.results_)) {}
-    StageResultsHandle& operator=(const StageResultsHandle& other) {
-        *results_ = *other.results_;
-        return *this;
-    }
-    ~StageResultsHandle() = default;
-
-    StageResults* operator->() noexcept { return results_.get(); }
-    const StageResults* operator->() const noexcept { return results_.get(); }
-    StageResults& operator*() noexcept { return *results_; }
-    const StageResults& operator*() const noexcept { return *results_; }
+    StageResults* operator->() noexcept { return &results_; }
+    const StageResults* operator->() const noexcept { return &results_; }
+    StageResults& operator*() noexcept { return results_; }
+    const StageResults& operator*() const noexcept { return results_; }
 
 private:
-    std::unique_ptr<StageResults> results_;
+    StageResults results_;
 };
 
 } // namespace Orv::FluidBench::Experiments

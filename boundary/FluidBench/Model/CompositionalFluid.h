@@ -22,8 +22,9 @@ namespace Orv::FluidBench::Model {
 /// A value that owns its components. Components stand in the order in which they were first set;
 /// `GetOrderedComponents`, `ListComponents` and `ListComponentsGlobalNames` all give that order.
 /// Looking up a component or a coefficient takes the same time whatever the number of components.
-/// One thread at a time may change a fluid; any number may read one that nobody changes. A fluid
-/// that was moved from may only be assigned to or destroyed.
+/// An operation that throws, for want of memory too, leaves the fluid as it was. One thread at a
+/// time may change a fluid; any number may read one that nobody changes. A fluid that was moved
+/// from may only be assigned to or destroyed.
 class FLUIDBENCH_BOUNDARY_API CompositionalFluid {
 public:
     /// An empty fluid. The name may be empty.
