@@ -3,15 +3,16 @@
 #include "Commands.h"
 #include "FluidBench/Common/Units.h"
 #include "FluidBench/Model/BlackOilTable.h"
+#include "LineReader.h"
+#include "NumberText.h"
 #include "Reports.h"
 #include "Table.h"
+#include "TextFile.h"
 #include "io/BlackOilExportFileWriter.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <charconv>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <map>
@@ -26,6 +27,8 @@ using Orv::FluidBench::Common::Units;
 using Orv::FluidBench::IO::BlackOilExportFileWriter;
 using Orv::FluidBench::Model::BlackOilDataRecords;
 using Orv::FluidBench::Model::BlackOilTable;
+using Orv::Text::LineReader;
+using Orv::Text::ParseAsAtof;
 
 namespace {
 
@@ -41,15 +44,6 @@ const std::map<std::string, Writer::EXPORT_TYPE> tableChoices{
     {"dead-wet", Writer::DEAD_OIL_WET_GAS},
     {"dead-dry", Writer::DEAD_OIL_DRY_GAS}};
 
-// The number that a text begins with, behind any blanks; 0.0 without one.
-double LeadingNumber(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
-    text.remove_prefix(text.starts_with('+') ? 1 : 0);
-    double value = 0.0;
-    std::from_chars(text.data(), text.data() + text.size(), value);
-    return value;
-}
-
 std::string LowerCase(std::string text) {
     std::ranges::transform(text, text.begin(), [](char c) {
         return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
@@ -62,17 +56,18 @@ std::string LowerCase(std::string text) {
 void ReadSaturationPoint(std::istream& file, BlackOilTable& table) {
     double ratio = 0.0;
     double pressure = 0.0;
-    for (std::string line; std::getline(file, line);) {
+    LineReader lines(file);
+    for (std::string_view line; lines.Next(line);) {
         const std::size_t comma = line.find(',');
-        if (comma == std::string::npos) {
+        if (comma == std::string_view::npos) {
             continue;
         }
-        const std::string key = LowerCase(line.substr(0, comma));
-        const std::string_view value = std::string_view(line).substr(comma + 1);
+        const std::string key = LowerCase(std::string(line.substr(0, comma)));
+        const std::string_view value = line.substr(comma + 1);
         if (key == "rsconst") {
-            ratio = LeadingNumber(value);
+            ratio = ParseAsAtof(value);
         } else if (key == "psat") {
-            pressure = LeadingNumber(value);
+            pressure = ParseAsAtof(value);
         } else if (key == "pvto" || key == "pvtg") {
             break;
         }
@@ -82,8 +77,8 @@ void ReadSaturationPoint(std::istream& file, BlackOilTable& table) {
 
 // The library's reader gives an empty table for what it can't read; here that is a failure.
 BlackOilTable ReadTable(const std::string& fileName) {
-    std::ifstream file(fileName);
-    if (!file.is_open() || std::filesystem::is_directory(fileName)) {
+    std::ifstream file = Orv::Text::OpenForReading(fileName);
+    if (!file.is_open()) {
         throw CommandFailed("'" + fileName + "' can't be opened for reading.");
     }
     BlackOilTable table = Writer().GetTableFromCSVFile(fileName);

@@ -3,8 +3,10 @@
 #include "Commands.h"
 #include "EnvelopeChart.h"
 #include "EnvelopeLines.h"
+#include "LineReader.h"
 #include "Reports.h"
 #include "Table.h"
+#include "TextFile.h"
 #include "io/PhaseEnvelopeReaderWriter.h"
 
 #include <CLI/CLI.hpp>
@@ -18,7 +20,6 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
 namespace FluidBenchTool {
@@ -46,20 +47,19 @@ bool HasUnknownHeading(std::string_view line) {
 // What the library's reader passes over in silence, and a person had better know. What isn't an
 // ordinary file, such as a pipe, can't be read once more and passes.
 void WarnOfWhatIsNotRead(const std::string& fileName) {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(fileName, error)) {
+    if (!Orv::Text::IsRegularFile(fileName)) {
         return;
     }
     constexpr std::size_t longestLine = 499;
     bool hasOtherUnits = false;
     bool hasOtherLines = false;
     bool hasLongLine = false;
-    std::ifstream file(fileName);
-    for (std::string line; !hasLongLine && std::getline(file, line);) {
-        const std::string_view text(line.data(), line.size() - (line.ends_with('\r') ? 1 : 0));
-        hasOtherUnits |= text.starts_with("Units: ") && text != "Units: T(K), P(Pa)";
-        hasOtherLines |= HasUnknownHeading(text);
-        hasLongLine = text.size() > longestLine;
+    std::ifstream file = Orv::Text::OpenForReading(fileName);
+    Orv::Text::LineReader lines(file, longestLine);
+    for (std::string_view line; lines.Next(line);) {
+        hasOtherUnits |= line.starts_with("Units: ") && line != "Units: T(K), P(Pa)";
+        hasOtherLines |= HasUnknownHeading(line);
+        hasLongLine = lines.IsCut();
     }
     const auto warn = [&fileName](bool isSo, const std::string& text) {
         if (isSo) {
