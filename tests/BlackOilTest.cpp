@@ -4,7 +4,6 @@
 #include "TestSupport.h"
 #include "io/BlackOilExportFileWriter.h"
 
-#include <iomanip>
 #include <sstream>
 #include <stdexcept>
 
@@ -283,21 +282,6 @@ TEST_F(BlackOil, TellsOfAFileThatFailsAndOfTwentyOfOneCode) {
     ASSERT_EQ(diagnosed.All().size(), 21U);
     EXPECT_EQ(diagnosed.All().back().sentence, "5 more like this.");
     EXPECT_EQ(diagnosed.All().back().line, 0U);
-}
-
-TEST_F(BlackOil, StreamsGetTheBytesOfFilesAndKeepTheirFormat) {
-    for (const auto form : {Writer::PVO, Writer::CSV}) {
-        std::ostringstream out;
-        out.imbue(ForeignLocale());
-        out << std::scientific << std::setprecision(3) << std::setfill('*') << std::setw(9);
-        const auto flags = out.flags();
-        writer.ExportToFile(Sample(), out, Units::FIELD, Writer::LIVE_OIL_WET_GAS, form);
-        EXPECT_EQ(out.str(), Export(Units::FIELD, Writer::LIVE_OIL_WET_GAS, form));
-        EXPECT_EQ(out.flags(), flags);
-        EXPECT_EQ(out.precision(), 3);
-        EXPECT_EQ(out.width(), 9);
-        EXPECT_EQ(out.fill(), '*');
-    }
 }
 
 TEST(BlackOilDataRecords, EntriesOfEarlierRecordsAndBadIndices) {

@@ -7,12 +7,16 @@
 #include "io/Export.h"
 
 #include <cstdint>
+#include <iosfwd>
 #include <string>
 
 namespace Orv::FluidBench::IO {
 
 /// Holds two options: an object may be used any number of times, by one thread at a time. The
 /// caller owns the table; a file is open only during a call.
+///
+/// The operation on a stream writes the same bytes as the one on a file; the stream belongs to the
+/// caller, and its format flags, precision, width and fill are put back.
 class FLUIDBENCH_IO_API KValuesExportFileWriter {
 public:
     /// Form of a file. Only the keyword form is available; any value but PVO counts as CSV.
@@ -27,8 +31,13 @@ public:
     ///
     /// An empty report is success. Message 3369 with the file name tells that the file can't be
     /// opened, and nothing is written; message 1001 that the CSV form was asked for, and the file
-    /// is empty. A write that fails afterwards, on a full disk for instance, isn't detected.
+    /// is empty. A write that fails afterwards, on a full disk for instance, isn't detected:
+    /// whoever has to know gives a stream and asks it when it is flushed.
     Common::ErrorReport ExportToFile(const Model::KValuesTable& table, const std::string& fileName,
+                                     Common::Units::UNIT_TYPE unitType) const;
+    /// The same to a stream. The report is empty, or message 1001 tells that the CSV form was asked
+    /// for, and nothing is written.
+    Common::ErrorReport ExportToFile(const Model::KValuesTable& table, std::ostream& out,
                                      Common::Units::UNIT_TYPE unitType) const;
 
 private:

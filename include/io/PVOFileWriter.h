@@ -9,6 +9,7 @@
 #include "FluidBench/Model/CompositionalFluid.h"
 #include "io/Export.h"
 
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,10 @@ namespace Orv::FluidBench::IO {
 /// owns every model object; a file is open only during a call.
 ///
 /// A file that can't be opened is reported by message 3369 with its name, and nothing is written.
-/// A write that fails afterwards, on a full disk for instance, isn't detected.
+/// A write that fails afterwards, on a full disk for instance, isn't detected: whoever has to know
+/// gives a stream and asks it when it is flushed. The operations on streams write the same bytes as
+/// those on files; the stream belongs to the caller, and its format flags, precision, width and
+/// fill are put back.
 class FLUIDBENCH_IO_API PVOFileWriter {
 public:
     PVOFileWriter();
@@ -34,6 +38,9 @@ public:
     Common::ErrorReport ExportToPVO(const Model::CompositionalFluid& fluid,
                                     const std::string& fileName, double reservoirTemperature,
                                     bool metric, bool writeRunspec);
+    /// The same to a stream. The report is empty.
+    Common::ErrorReport ExportToPVO(const Model::CompositionalFluid& fluid, std::ostream& out,
+                                    double reservoirTemperature, bool metric, bool writeRunspec);
 
     // Depth variation tables, each in a file of its own that replaces an existing one. The rows are
     // the stages of the results, which are the depths of the run. A contact stage that has a depth
@@ -47,6 +54,10 @@ public:
                                     const Experiments::ExperimentResults& results,
                                     const std::string& fileName,
                                     Common::Units::UNIT_TYPE units) const;
+    /// The same to a stream. The report is empty.
+    Common::ErrorReport ExportZMFVD(const Model::CompositionalFluid& fluid,
+                                    const Experiments::ExperimentResults& results,
+                                    std::ostream& out, Common::Units::UNIT_TYPE units) const;
 
     /// Writes the saturation pressure of each stage that has one, in psia for FIELD and in bar
     /// otherwise: the bubble points ("PBVD") when the first stage has a liquid phase, else the dew
@@ -56,6 +67,9 @@ public:
     Common::ErrorReport ExportPSATVD(const Experiments::ExperimentResults& results,
                                      const std::string& fileName,
                                      Common::Units::UNIT_TYPE units) const;
+    /// The same to a stream. Results without stages are told as above, and nothing is written.
+    Common::ErrorReport ExportPSATVD(const Experiments::ExperimentResults& results,
+                                     std::ostream& out, Common::Units::UNIT_TYPE units) const;
 
     /// Writes the ratio that the separator gives for the fluid of each stage with a gas-oil ratio:
     /// the dissolved gas ("RSVD") when the first stage holds an oil-like fluid, else the vaporised
@@ -69,6 +83,11 @@ public:
                                    const std::vector<Experiments::Stage>& separatorStages,
                                    const std::string& fileName,
                                    Common::Units::UNIT_TYPE units) const;
+    /// The same to a stream.
+    Common::ErrorReport ExportRSVD(const Experiments::ExperimentResults& results,
+                                   Experiments::MSTExperiment experiment,
+                                   const std::vector<Experiments::Stage>& separatorStages,
+                                   std::ostream& out, Common::Units::UNIT_TYPE units) const;
 
 private:
     /// Whether the rows from `depth` on belong to the liquid below the contact and those before it

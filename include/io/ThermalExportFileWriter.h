@@ -16,6 +16,9 @@ class IThermalTableFormatter;
 
 /// Holds two options: an object may be used any number of times, by one thread at a time. The
 /// caller owns the table; a file is open only during a call.
+///
+/// The operation on a stream writes the same bytes as the one on a file; the stream belongs to the
+/// caller, and its format flags, precision, width and fill are put back.
 class FLUIDBENCH_IO_API ThermalExportFileWriter {
 public:
     /// Form of a file. Only the keyword form is available; any value but PVO counts as CSV.
@@ -35,13 +38,18 @@ public:
     ///
     /// An empty report is success. Message 3369 with the file name tells that the file can't be
     /// opened, and nothing is written; message 1001 that the CSV form was asked for, and the file
-    /// is empty. A write that fails afterwards, on a full disk for instance, isn't detected.
+    /// is empty. A write that fails afterwards, on a full disk for instance, isn't detected:
+    /// whoever has to know gives a stream and asks it when it is flushed.
     ///
     /// Throws `std::invalid_argument`, and leaves the file as it was, where a vector of the table
     /// has fewer or more values than the table has components. Its text names the vector and both
     /// numbers.
     Common::ErrorReport ExportToFile(const Model::ThermalExportTable& table,
                                      const std::string& fileName,
+                                     Common::Units::UNIT_TYPE unitType) const;
+    /// The same to a stream. The report is empty, or message 1001 tells that the CSV form was asked
+    /// for, and nothing is written. Throws as above, ahead of the first byte.
+    Common::ErrorReport ExportToFile(const Model::ThermalExportTable& table, std::ostream& out,
                                      Common::Units::UNIT_TYPE unitType) const;
 
 private:

@@ -20,10 +20,11 @@
 #include "Messages.h"
 #include "NumberText.h"
 #include "OutputFile.h"
+#include "StreamFormat.h"
 
 #include <algorithm>
 #include <compare>
-#include <fstream>
+#include <utility>
 
 namespace Orv::FluidBench::IO {
 
@@ -36,10 +37,11 @@ using Experiments::MSTExperiment;
 using Experiments::oilLikeFluidState;
 using Experiments::Stage;
 using Impl::IO::FreeText;
-using Impl::IO::OpenOrReport;
+using Impl::IO::WriteFile;
 using Model::CompositionalFluid;
 using Text::AppendNumber;
 using Text::NumberFormat;
+using Text::StreamFormat;
 using Utilities::Equations;
 
 namespace {
@@ -170,11 +172,14 @@ std::vector<Stage> PVOFileWriter::UpdateStageResults(const std::vector<Stage>& s
 ErrorReport PVOFileWriter::ExportZMFVD(const CompositionalFluid& fluid,
                                        const ExperimentResults& results,
                                        const std::string& fileName, Units::UNIT_TYPE units) const {
-    ErrorReport report;
-    std::ofstream out = OpenOrReport(fileName, report);
-    if (!out.is_open()) {
-        return report;
-    }
+    return WriteFile(fileName,
+                     [&](std::ostream& out) { return ExportZMFVD(fluid, results, out, units); });
+}
+
+ErrorReport PVOFileWriter::ExportZMFVD(const CompositionalFluid& fluid,
+                                       const ExperimentResults& results, std::ostream& out,
+                                       Units::UNIT_TYPE units) const {
+    const StreamFormat format(out);
     std::vector<Stage> stages = results.Stages;
     if (results.ContactStage.Results->Depth.IsSet) {
         InsertStageByDepth(stages, results.ContactStage);
@@ -187,16 +192,18 @@ ErrorReport PVOFileWriter::ExportZMFVD(const CompositionalFluid& fluid,
     }
     EndTable(out);
     out << FileUnitHeader(units == Units::METRIC);
-    return report;
+    return {};
 }
 
 ErrorReport PVOFileWriter::ExportPSATVD(const ExperimentResults& results,
                                         const std::string& fileName, Units::UNIT_TYPE units) const {
-    ErrorReport report;
-    std::ofstream out = OpenOrReport(fileName, report);
-    if (!out.is_open()) {
-        return report;
-    }
+    return WriteFile(fileName,
+                     [&](std::ostream& out) { return ExportPSATVD(results, out, units); });
+}
+
+ErrorReport PVOFileWriter::ExportPSATVD(const ExperimentResults& results, std::ostream& out,
+                                        Units::UNIT_TYPE units) const {
+    const StreamFormat format(out);
     if (results.Stages.empty()) {
         return EmptyResults();
     }
@@ -223,17 +230,21 @@ ErrorReport PVOFileWriter::ExportPSATVD(const ExperimentResults& results,
     }
     EndTable(out);
     out << FileUnitHeader(units == Units::METRIC);
-    return report;
+    return {};
 }
 
 ErrorReport PVOFileWriter::ExportRSVD(const ExperimentResults& results, MSTExperiment experiment,
                                       const std::vector<Stage>& separatorStages,
                                       const std::string& fileName, Units::UNIT_TYPE units) const {
-    ErrorReport report;
-    std::ofstream out = OpenOrReport(fileName, report);
-    if (!out.is_open()) {
-        return report;
-    }
+    return WriteFile(fileName, [&](std::ostream& out) {
+        return ExportRSVD(results, std::move(experiment), separatorStages, out, units);
+    });
+}
+
+ErrorReport PVOFileWriter::ExportRSVD(const ExperimentResults& results, MSTExperiment experiment,
+                                      const std::vector<Stage>& separatorStages, std::ostream& out,
+                                      Units::UNIT_TYPE units) const {
+    const StreamFormat format(out);
     if (results.Stages.empty()) {
         return EmptyResults();
     }
@@ -270,7 +281,7 @@ ErrorReport PVOFileWriter::ExportRSVD(const ExperimentResults& results, MSTExper
     }
     EndTable(out);
     out << FileUnitHeader(units == Units::METRIC);
-    return report;
+    return {};
 }
 
 } // namespace Orv::FluidBench::IO

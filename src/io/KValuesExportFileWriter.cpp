@@ -21,9 +21,9 @@
 #include "DeckText.h"
 #include "Messages.h"
 #include "OutputFile.h"
+#include "StreamFormat.h"
 #include "io/KValuesTableFormatter.h"
 
-#include <fstream>
 #include <ios>
 #include <memory>
 #include <ostream>
@@ -33,8 +33,9 @@ namespace Orv::FluidBench::IO {
 using Common::ErrorReport;
 using Common::Units;
 using Impl::IO::CsvUnsupported;
-using Impl::IO::OpenOrReport;
+using Impl::IO::WriteFile;
 using Model::KValuesTable;
+using Text::StreamFormat;
 
 namespace {
 
@@ -49,15 +50,18 @@ KValuesExportFileWriter::KValuesExportFileWriter(bool useHighPrecision, FILE_TYP
 ErrorReport KValuesExportFileWriter::ExportToFile(const KValuesTable& table,
                                                   const std::string& fileName,
                                                   Units::UNIT_TYPE unitType) const {
-    ErrorReport report;
-    std::ofstream out = OpenOrReport(fileName, report);
-    if (!out.is_open()) {
-        return report;
-    }
+    return WriteFile(fileName,
+                     [&](std::ostream& out) { return ExportToFile(table, out, unitType); });
+}
+
+ErrorReport KValuesExportFileWriter::ExportToFile(const KValuesTable& table, std::ostream& out,
+                                                  Units::UNIT_TYPE unitType) const {
     if (fileType != PVO) {
+        ErrorReport report;
         report.Add(CsvUnsupported());
         return report;
     }
+    const StreamFormat format(out);
     out << std::fixed;
     out.precision(highPrecision ? decimalsOfHighPrecision : decimals);
     const std::unique_ptr<IKValuesTableFormatter> formatter =
@@ -66,7 +70,7 @@ ErrorReport KValuesExportFileWriter::ExportToFile(const KValuesTable& table,
     formatter->KVTable(out, table);
     formatter->EndDataRecord(out);
     out << std::endl << FileUnitHeader(unitType == Units::METRIC);
-    return report;
+    return {};
 }
 
 } // namespace Orv::FluidBench::IO

@@ -19,14 +19,12 @@
 #include "NumberText.h"
 #include "OutputFile.h"
 
-#include <fstream>
-
 namespace Orv::FluidBench::IO {
 
 using Common::ErrorReport;
 using Common::pvtEnumEoS;
 using Common::Units;
-using Impl::IO::OpenOrReport;
+using Impl::IO::WriteFile;
 using Model::CompositionalFluid;
 using Text::AppendNumber;
 
@@ -77,21 +75,9 @@ void WriteEoSSection(std::ostream& deck, const CompositionalFluid& fluid) {
     }
 }
 
-} // namespace
-
-PVOFileWriter::PVOFileWriter() = default;
-PVOFileWriter::~PVOFileWriter() = default;
-
-ErrorReport PVOFileWriter::ExportToPVO(const CompositionalFluid& fluid, const std::string& fileName,
-                                       double reservoirTemperature, bool metric,
-                                       bool writeRunspec) {
-    ErrorReport report;
-    const Components components = fluid.GetOrderedComponents();
+void WriteDeck(std::ostream& deck, const CompositionalFluid& fluid, const Components& components,
+               double reservoirTemperature, bool metric, bool writeRunspec) {
     const std::size_t n = components.size();
-    std::ofstream deck = OpenOrReport(fileName, report);
-    if (!deck.is_open()) {
-        return report;
-    }
     WriteRunspecSection(deck, writeRunspec, metric, n);
     WriteLines(deck, {"ECHO", "--"});
     WriteFileUnit(deck, metric);
@@ -109,7 +95,29 @@ ErrorReport PVOFileWriter::ExportToPVO(const CompositionalFluid& fluid, const st
     WriteBinaryInteractions(deck, fluid, n);
     WriteParachors(deck, components, n);
     WriteViscosityAndComposition(deck, fluid, components, n, metric);
-    return report;
+}
+
+} // namespace
+
+PVOFileWriter::PVOFileWriter() = default;
+PVOFileWriter::~PVOFileWriter() = default;
+
+// A fluid that can't give its components leaves an older file as it is.
+ErrorReport PVOFileWriter::ExportToPVO(const CompositionalFluid& fluid, const std::string& fileName,
+                                       double reservoirTemperature, bool metric,
+                                       bool writeRunspec) {
+    const Components components = fluid.GetOrderedComponents();
+    return WriteFile(fileName, [&](std::ostream& out) {
+        WriteDeck(out, fluid, components, reservoirTemperature, metric, writeRunspec);
+        return ErrorReport();
+    });
+}
+
+ErrorReport PVOFileWriter::ExportToPVO(const CompositionalFluid& fluid, std::ostream& out,
+                                       double reservoirTemperature, bool metric,
+                                       bool writeRunspec) {
+    WriteDeck(out, fluid, fluid.GetOrderedComponents(), reservoirTemperature, metric, writeRunspec);
+    return {};
 }
 
 } // namespace Orv::FluidBench::IO

@@ -3,10 +3,10 @@
 #include "DeckText.h"
 #include "Messages.h"
 #include "OutputFile.h"
+#include "StreamFormat.h"
 #include "io/ThermalTableFormatter.h"
 
 #include <algorithm>
-#include <fstream>
 #include <ios>
 #include <memory>
 #include <ostream>
@@ -19,8 +19,9 @@ namespace Orv::FluidBench::IO {
 using Common::ErrorReport;
 using Common::Units;
 using Impl::IO::CsvUnsupported;
-using Impl::IO::OpenOrReport;
+using Impl::IO::WriteFile;
 using Model::ThermalExportTable;
+using Text::StreamFormat;
 
 namespace {
 
@@ -144,15 +145,20 @@ ErrorReport ThermalExportFileWriter::ExportToFile(const ThermalExportTable& tabl
     if (fileType == PVO) {
         RequireOneValuePerComponent(table);
     }
-    ErrorReport report;
-    std::ofstream out = OpenOrReport(fileName, report);
-    if (!out.is_open()) {
-        return report;
-    }
+    return WriteFile(fileName,
+                     [&](std::ostream& out) { return ExportToFile(table, out, unitType); });
+}
+
+ErrorReport ThermalExportFileWriter::ExportToFile(const ThermalExportTable& table,
+                                                  std::ostream& out,
+                                                  Units::UNIT_TYPE unitType) const {
     if (fileType != PVO) {
+        ErrorReport report;
         report.Add(CsvUnsupported());
         return report;
     }
+    RequireOneValuePerComponent(table);
+    const StreamFormat format(out);
     out << std::fixed;
     out.precision(highPrecision ? decimalsOfHighPrecision : decimals);
     const std::unique_ptr<IThermalTableFormatter> formatter =
@@ -160,7 +166,7 @@ ErrorReport ThermalExportFileWriter::ExportToFile(const ThermalExportTable& tabl
     WriteSections(out, *formatter, table, unitType);
     formatter->EndDataRecord(out);
     out << std::endl << FileUnitHeader(unitType == Units::METRIC);
-    return report;
+    return {};
 }
 
 void ThermalExportFileWriter::WriteSections(std::ostream& out,
