@@ -232,12 +232,11 @@ int TakeExponent(const char*& position, const char* end) noexcept {
 
 // Numbers as files have them. Up to 19 digits make a whole number that 64 bits hold. When it is at
 // most 2^53, a double has it exactly, as it has the powers of ten; dividing or multiplying these
-// two rounds once, so it gives the nearest double. False for all other numbers and texts.
-bool ReadPlainDecimal(std::string_view text, Magnitude& number) noexcept {
+// two rounds once, so it gives the nearest double. Gives the end of the number, and null for all
+// other numbers and texts.
+const char* ReadPlainDecimal(const char* position, const char* end, double& value) noexcept {
     constexpr std::ptrdiff_t mostDigits = 19;
     constexpr std::uint64_t mostExact = std::uint64_t{1} << 53;
-    const char* const end = text.data() + text.size();
-    const char* position = text.data();
     std::uint64_t mantissa = 0;
     std::ptrdiff_t digits = 0;
     const auto takeDigits = [&] {
@@ -255,24 +254,28 @@ bool ReadPlainDecimal(std::string_view text, Magnitude& number) noexcept {
         decimals = takeDigits();
     }
     if (FLT_EVAL_METHOD != 0 || digits == 0 || digits > mostDigits || mantissa > mostExact) {
-        return false;
+        return nullptr;
     }
     const int exponent = TakeExponent(position, end) - static_cast<int>(decimals);
     const auto power = static_cast<std::size_t>(std::abs(exponent));
     if (power >= powersOfTen.size()) {
-        return false;
+        return nullptr;
     }
     const auto whole = static_cast<double>(mantissa);
-    number.value = exponent < 0 ? whole / powersOfTen[power] : whole * powersOfTen[power];
-    number.isThere = true;
-    number.rest = std::string_view(position, static_cast<std::size_t>(end - position));
-    return true;
+    value = exponent < 0 ? whole / powersOfTen[power] : whole * powersOfTen[power];
+    return position;
 }
 
 Magnitude ReadMagnitude(std::string_view text, std::chars_format notation) noexcept {
     Magnitude number;
-    if (notation == std::chars_format::general && ReadPlainDecimal(text, number)) {
-        return number;
+    if (notation == std::chars_format::general) {
+        const char* const textEnd = text.data() + text.size();
+        const char* const end = ReadPlainDecimal(text.data(), textEnd, number.value);
+        if (end != nullptr) {
+            number.isThere = true;
+            number.rest = std::string_view(end, static_cast<std::size_t>(textEnd - end));
+            return number;
+        }
     }
     const auto [end, error] =
         std::from_chars(text.data(), text.data() + text.size(), number.value, notation);
@@ -322,11 +325,13 @@ Magnitude ReadAsAtof(std::string_view text) noexcept {
 // The whole text as a plain decimal with an optional minus sign.
 bool ParsePlainDecimal(std::string_view text, double& number) noexcept {
     const bool isNegative = text.starts_with('-');
-    Magnitude magnitude;
-    if (!ReadPlainDecimal(text.substr(isNegative ? 1 : 0), magnitude) || !magnitude.rest.empty()) {
+    const char* const end = text.data() + text.size();
+    double magnitude = 0.0;
+    const char* const behind = ReadPlainDecimal(text.data() + (isNegative ? 1 : 0), end, magnitude);
+    if (behind == nullptr || behind != end) {
         return false;
     }
-    number = Signed(isNegative, magnitude);
+    number = isNegative ? -magnitude : magnitude;
     return true;
 }
 
@@ -391,6 +396,26 @@ double ParseAsAtof(std::string_view text) noexcept {
     text = SkipSpace(text);
     const bool isNegative = TakeSign(text);
     return Signed(isNegative, ReadAsAtof(text));
+}
+
+double TakeAsAtof(std::string_view& text) noexcept {
+    std::string_view number = SkipSpace(text);
+    const bool isNegative = TakeSign(number);
+    if (!HasHexadecimalPrefix(number)) {
+        double plain = 0.0;
+        const char* const end =
+            ReadPlainDecimal(number.data(), number.data() + number.size(), plain);
+        if (end != nullptr) {
+            text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+            return isNegative ? -plain : plain;
+        }
+    }
+    const Magnitude magnitude = ReadAsAtof(number);
+    if (magnitude.isThere) {
+        // What a hexadecimal number was looked for in may end ahead of the text.
+        text.remove_prefix(static_cast<std::size_t>(magnitude.rest.data() - text.data()));
+    }
+    return Signed(isNegative, magnitude);
 }
 
 double ParseLeadingDecimal(std::string_view text) noexcept {

@@ -38,7 +38,11 @@ void WriteNumber(std::ostream& out, std::uint64_t value);
 /// behind the number doesn't matter, and no number is 0.0. What is too large gives an infinity.
 double ParseAsAtof(std::string_view text) noexcept;
 
-/// The same for decimal numbers alone: digits with an optional sign, point and exponent.
+/// The same, and passes the number: `text` is then what stands behind it. Where it begins with no
+/// number, it stays as it is.
+double TakeAsAtof(std::string_view& text) noexcept;
+
+/// As `ParseAsAtof`, for decimal numbers alone: digits with an optional sign, point and exponent.
 double ParseLeadingDecimal(std::string_view text) noexcept;
 
 /// The number that `stream >> value` would extract in the classic locale from a stream of `text`;

@@ -37,6 +37,7 @@ using Model::BlackOilTable;
 using Text::LineReader;
 using Text::ParseAsAtof;
 using Text::Quote;
+using Text::TakeAsAtof;
 namespace Kinds = Impl::IO::BlackOilKinds;
 
 namespace {
@@ -95,16 +96,14 @@ bool BeginsTable(std::string_view key) noexcept {
 // The last cell takes the rest of the line.
 using Cells = std::array<std::string_view, 4>;
 
-std::optional<Cells> SplitRow(std::string_view line) noexcept {
+// The cells of a line that is a row.
+Cells SplitRow(std::string_view line) noexcept {
     Cells cells;
     std::size_t comma = line.find(',');
-    for (std::size_t i = 0; i + 1 < cells.size() && comma != std::string_view::npos; ++i) {
+    for (std::size_t i = 0; i + 1 < cells.size(); ++i) {
         const std::size_t begin = comma + 1;
         comma = line.find(',', begin);
         cells[i] = line.substr(begin, comma - begin);
-    }
-    if (comma == std::string_view::npos) {
-        return std::nullopt;
     }
     cells.back() = line.substr(comma + 1);
     return cells;
@@ -117,10 +116,21 @@ struct Row {
     double viscosity; // Pa.s
 };
 
-Row ReadRow(const Cells& cells, const Layout& layout) noexcept {
-    return {Units::Pressure_bar_To_Pa(ParseAsAtof(cells[layout.pressure])),
-            ParseAsAtof(cells[layout.ratio]), ParseAsAtof(cells[volumeFactorCell]),
-            Units::Viscosity_cp_To_Pas(ParseAsAtof(cells[viscosityCell]))};
+// The row in one pass: a number ends at the comma behind its cell, if not before. Nothing where a
+// comma is missing.
+std::optional<Row> ReadRow(std::string_view line, const Layout& layout) noexcept {
+    std::array<double, 4> numbers{};
+    std::string_view rest = line;
+    for (double& number : numbers) {
+        const std::size_t comma = rest.find(',');
+        if (comma == std::string_view::npos) {
+            return std::nullopt;
+        }
+        rest.remove_prefix(comma + 1);
+        number = TakeAsAtof(rest);
+    }
+    return Row{Units::Pressure_bar_To_Pa(numbers[layout.pressure]), numbers[layout.ratio],
+               numbers[volumeFactorCell], Units::Viscosity_cp_To_Pas(numbers[viscosityCell])};
 }
 
 // Looks at what the reader takes or passes over, and tells of what may not be meant so. It is asked
@@ -135,7 +145,7 @@ public:
     void EndTable();
     void BeginRecord() { previousPressure_.reset(); }
     void SkippedRow(std::string_view line);
-    void TakenRow(std::string_view line, const Cells& cells, const Row& row);
+    void TakenRow(std::string_view line, const Row& row);
     void Density(std::string_view name, std::string_view value);
     void EndFile();
 
@@ -231,7 +241,7 @@ void Watch::SkippedRow(std::string_view line) {
     }
 }
 
-void Watch::TakenRow(std::string_view line, const Cells& cells, const Row& row) {
+void Watch::TakenRow(std::string_view line, const Row& row) {
     LookForHeading(line);
     hasRows_ = true;
     if (line.find_first_not_of(", \t\"") == std::string_view::npos) {
@@ -240,6 +250,7 @@ void Watch::TakenRow(std::string_view line, const Cells& cells, const Row& row) 
                                "this one.");
         return;
     }
+    const Cells cells = SplitRow(line);
     for (std::size_t i = 0; i < cells.size(); ++i) {
         TellCell(diagnostics_, cellKinds, lines_.Number(), layout_->columns[i], cells[i],
                  countsAsZero);
@@ -360,12 +371,11 @@ BlackOilDataRecords CsvReader::ReadTable(TableKind kind) {
                 watch_.AtTopLevel(line);
             }
             break;
-        } else if (const auto cells = SplitRow(line)) {
-            const Row row = ReadRow(*cells, layout);
-            records.AddEntry(record, row.pressure, row.ratio, row.volumeFactor, row.viscosity);
+        } else if (const auto row = ReadRow(line, layout)) {
+            records.AddEntry(record, row->pressure, row->ratio, row->volumeFactor, row->viscosity);
             recordHasRows = true;
             if (isWatched) {
-                watch_.TakenRow(line, *cells, row);
+                watch_.TakenRow(line, *row);
             }
         } else if (isWatched) {
             watch_.SkippedRow(line);

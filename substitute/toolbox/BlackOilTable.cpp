@@ -4,8 +4,7 @@
 #include "FluidBench/Model/BlackOilDataRecords.h"
 #include "Room.h"
 
-#include <cstddef>
-#include <iterator>
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
@@ -53,7 +52,11 @@ std::uint64_t BlackOilDataRecords::AddEntry(std::uint64_t record, double pressur
         return AddRecord({entry}), 0;
     }
     const std::uint64_t end = End(record);
-    entries_.insert(std::next(entries_.begin(), static_cast<std::ptrdiff_t>(end)), entry);
+    Append(entry);
+    for (std::uint64_t i = NumberOfEntries(); i > end; --i) {
+        EntryAt(i) = EntryAt(i - 1);
+    }
+    EntryAt(end) = entry;
     for (std::uint64_t i = record; i < records; ++i) {
         ++recordEnds_[i];
     }
@@ -65,9 +68,35 @@ std::uint64_t BlackOilDataRecords::AddRecord(std::span<const Entry> entries) {
         throw std::invalid_argument("A record of a black-oil table has at least one entry");
     }
     MakeRoomForOneMore(recordEnds_);
-    entries_.insert(entries_.end(), entries.begin(), entries.end());
-    recordEnds_.push_back(entries_.size());
+    const std::uint64_t size = NumberOfEntries();
+    try {
+        std::ranges::for_each(entries, [this](const Entry& entry) { Append(entry); });
+    } catch (...) {
+        Truncate(size);
+        throw;
+    }
+    recordEnds_.push_back(size + entries.size());
     return recordEnds_.size() - 1;
+}
+
+void BlackOilDataRecords::Append(const Entry& entry) {
+    if (blocks_.empty() || blocks_.back().size() == entriesOfBlock) {
+        std::vector<Entry> block;
+        if (!blocks_.empty()) { // a small table takes little memory
+            block.reserve(entriesOfBlock);
+        }
+        block.push_back(entry);
+        blocks_.push_back(std::move(block));
+    } else {
+        blocks_.back().push_back(entry);
+    }
+}
+
+void BlackOilDataRecords::Truncate(std::uint64_t size) noexcept {
+    blocks_.resize((size + entriesOfBlock - 1) / entriesOfBlock);
+    if (size % entriesOfBlock != 0) {
+        blocks_.back().resize(size % entriesOfBlock);
+    }
 }
 
 BlackOilTable::BlackOilTable() = default;

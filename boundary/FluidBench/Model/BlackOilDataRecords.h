@@ -15,7 +15,7 @@ namespace Orv::FluidBench::Model {
 /// branch above one saturation point; an entry is one row of it: a pressure, the table's ratio
 /// (gas-oil or oil-gas), a formation volume factor and a viscosity. Numbers are kept as given.
 ///
-/// The stand-in holds all entries in one block, 32 bytes each, with 8 more for each record. Reading
+/// The stand-in holds entries in blocks, 32 bytes each, with 8 more for each record. Reading
 /// an entry takes constant time, and so does appending to the last record; appending to an earlier
 /// one moves everything behind it. One thread at a time may change a table.
 ///
@@ -75,11 +75,25 @@ private:
         if (entry >= End(record) - Begin(record)) {
             throw std::out_of_range("The record of the black-oil table has no such entry");
         }
-        return entries_[Begin(record) + entry];
+        return EntryAt(Begin(record) + entry);
     }
 
-    std::vector<Entry> entries_;            // record after record
-    std::vector<std::uint64_t> recordEnds_; // one past the last entry of each record
+    // Entries lie in blocks, so that a table that grows copies none of them.
+    static constexpr std::uint64_t entriesOfBlock = 2048;
+    std::uint64_t NumberOfEntries() const noexcept {
+        return recordEnds_.empty() ? 0 : recordEnds_.back();
+    }
+    const Entry& EntryAt(std::uint64_t index) const noexcept {
+        return blocks_[index / entriesOfBlock][index % entriesOfBlock];
+    }
+    Entry& EntryAt(std::uint64_t index) noexcept {
+        return blocks_[index / entriesOfBlock][index % entriesOfBlock];
+    }
+    void Append(const Entry& entry);
+    void Truncate(std::uint64_t size) noexcept;
+
+    std::vector<std::vector<Entry>> blocks_; // record after record; all are full but the last
+    std::vector<std::uint64_t> recordEnds_;  // one past the last entry of each record
 };
 
 } // namespace Orv::FluidBench::Model
