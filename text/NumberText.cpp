@@ -20,52 +20,17 @@ using Flags = std::ios_base::fmtflags;
 constexpr int defaultPrecision = 6;
 constexpr std::size_t longestInteger = 309; // digits before the point of the largest double
 constexpr std::size_t longestDressing = 16; // sign, point and exponent
-constexpr std::size_t usualLength = 128;
+constexpr std::size_t longestHexadecimal = 32;
 
-// The characters of a number in a buffer on the stack, or on the heap when they don't fit.
-class Characters {
-public:
-    Characters(double value, NumberFormat format) {
-        const int precision = format.precision < 0 ? defaultPrecision : format.precision;
-        static_assert(roomForDigits <= usualLength);
-        if (const char* const end = WriteDigits(stack_.data(), value, format.notation, precision)) {
-            view_ = std::string_view(stack_.data(), static_cast<std::size_t>(end - stack_.data()));
-            return;
-        }
-        Fill(static_cast<std::size_t>(precision) + longestInteger + longestDressing,
-             [&](char* begin, char* end) {
-                 return std::to_chars(begin, end, value, format.notation, precision);
-             });
-    }
-    explicit Characters(std::uint64_t value) {
-        Fill(usualLength, [&](char* begin, char* end) { return std::to_chars(begin, end, value); });
-    }
-
-    std::string_view View() const noexcept { return view_; }
-
-private:
-    template <typename ToChars>
-    void Fill(std::size_t enough, ToChars toChars) {
-        auto result = toChars(stack_.data(), stack_.data() + stack_.size());
-        char* begin = stack_.data();
-        if (result.ec != std::errc()) {
-            heap_.resize(enough);
-            begin = heap_.data();
-            result = toChars(begin, begin + heap_.size());
-        }
-        view_ = std::string_view(begin, static_cast<std::size_t>(result.ptr - begin));
-    }
-
-    std::array<char, usualLength> stack_;
-    std::string heap_;
-    std::string_view view_;
-};
+int PrecisionOf(NumberFormat format) noexcept {
+    return format.precision < 0 ? defaultPrecision : format.precision;
+}
 
 // printf's '#' flag in general notation: the precision counts digits and none of them is dropped.
 NumberFormat KeepTrailingZeros(double value, NumberFormat format) {
-    const int digits = std::max(format.precision < 0 ? defaultPrecision : format.precision, 1);
-    const Characters scientific(value, {std::chars_format::scientific, digits - 1});
-    const std::string_view text = scientific.View();
+    const int digits = std::max(PrecisionOf(format), 1);
+    std::string text;
+    AppendNumber(text, value, {std::chars_format::scientific, digits - 1});
     const std::size_t letter = text.find('e');
     int exponent = 0;
     const std::size_t first = letter + (text[letter + 1] == '+' ? 2 : 1);
@@ -88,7 +53,7 @@ std::string DressedNumber(double value, NumberFormat format, Flags flags) {
     const bool showPoint = (flags & std::ios_base::showpoint) != 0 && std::isfinite(value);
     std::string number;
     if (isHexadecimal && std::isfinite(value)) {
-        std::array<char, usualLength> digits;
+        std::array<char, longestHexadecimal> digits;
         const auto end = std::to_chars(digits.data(), digits.data() + digits.size(),
                                        std::abs(value), std::chars_format::hex)
                              .ptr;
@@ -97,7 +62,7 @@ std::string DressedNumber(double value, NumberFormat format, Flags flags) {
         if (showPoint && format.notation == std::chars_format::general) {
             format = KeepTrailingZeros(value, format);
         }
-        number = Characters(value, format).View();
+        AppendNumber(number, value, format);
     }
     if (showPoint) {
         InsertPoint(number, isHexadecimal ? 'p' : 'e');
@@ -121,19 +86,21 @@ std::size_t PrefixLength(std::string_view number) {
     return number.starts_with("0x") || number.starts_with("0X") ? 2 : 0;
 }
 
-void WritePadded(std::ostream& out, std::string_view number) {
-    const auto width = static_cast<std::size_t>(std::max<std::streamsize>(out.width(0), 0));
-    if (width <= number.size()) {
-        out.write(number.data(), static_cast<std::streamsize>(number.size()));
+// Fills the field of the number that begins at `begin` as the stream would.
+void Pad(TextBuffer& text, std::size_t begin, std::size_t width, const std::ostream& out) {
+    const std::string_view number = text.View().substr(begin);
+    if (number.size() >= width) {
         return;
     }
-    std::string field(number);
     const Flags adjustment = out.flags() & std::ios_base::adjustfield;
     const std::size_t where = adjustment == std::ios_base::left       ? number.size()
                               : adjustment == std::ios_base::internal ? PrefixLength(number)
                                                                       : 0;
-    field.insert(where, width - number.size(), out.fill());
-    out.write(field.data(), static_cast<std::streamsize>(field.size()));
+    text.Insert(begin + where, width - number.size(), out.fill());
+}
+
+std::size_t TakeWidth(std::ostream& out) {
+    return static_cast<std::size_t>(std::max<std::streamsize>(out.width(0), 0));
 }
 
 constexpr bool IsSpace(char c) noexcept {
@@ -355,17 +322,40 @@ bool ParseWithD(std::string_view text, double& number) {
 
 } // namespace
 
-void AppendNumber(std::string& text, double value, NumberFormat format, std::size_t width) {
-    const Characters characters(value, format);
-    const std::string_view number = characters.View();
-    if (number.size() < width) {
-        text.append(width - number.size(), ' ');
+void AppendNumber(TextBuffer& text, double value, NumberFormat format, std::size_t width) {
+    const std::size_t begin = text.Size();
+    const int precision = PrecisionOf(format);
+    char* const digits = text.Room(roomForDigits);
+    if (const char* const end = WriteDigits(digits, value, format.notation, precision)) {
+        text.EndAt(end);
+    } else {
+        const std::size_t enough =
+            static_cast<std::size_t>(precision) + longestInteger + longestDressing;
+        char* const number = text.Room(enough);
+        text.EndAt(std::to_chars(number, number + enough, value, format.notation, precision).ptr);
     }
-    text += number;
+    const std::size_t length = text.Size() - begin;
+    if (length < width) {
+        text.Insert(begin, width - length, ' ');
+    }
+}
+
+void AppendNumber(TextBuffer& text, std::uint64_t value) {
+    constexpr std::size_t enough = std::numeric_limits<std::uint64_t>::digits10 + 1;
+    char* const number = text.Room(enough);
+    text.EndAt(std::to_chars(number, number + enough, value).ptr);
+}
+
+void AppendNumber(std::string& text, double value, NumberFormat format, std::size_t width) {
+    TextBuffer number;
+    AppendNumber(number, value, format, width);
+    text += number.View();
 }
 
 void AppendNumber(std::string& text, std::uint64_t value) {
-    text += Characters(value).View();
+    TextBuffer number;
+    AppendNumber(number, value);
+    text += number.View();
 }
 
 NumberFormat FormatOf(const std::ostream& out) {
@@ -376,20 +366,31 @@ NumberFormat FormatOf(const std::ostream& out) {
             static_cast<int>(out.precision())};
 }
 
-void WriteNumber(std::ostream& out, double value) {
+void AppendAsInserted(TextBuffer& text, double value, const std::ostream& out, std::size_t width) {
     constexpr Flags dressing =
         std::ios_base::showpoint | std::ios_base::showpos | std::ios_base::uppercase;
+    const std::size_t begin = text.Size();
     const Flags flags = out.flags();
     const bool isHexadecimal = (flags & std::ios_base::floatfield) == std::ios_base::floatfield;
     if ((flags & dressing) == 0 && !isHexadecimal) {
-        WritePadded(out, Characters(value, FormatOf(out)).View());
+        AppendNumber(text, value, FormatOf(out));
     } else {
-        WritePadded(out, DressedNumber(value, FormatOf(out), flags));
+        text += DressedNumber(value, FormatOf(out), flags);
     }
+    Pad(text, begin, width, out);
+}
+
+void WriteNumber(std::ostream& out, double value) {
+    TextBuffer number;
+    AppendAsInserted(number, value, out, TakeWidth(out));
+    number.WriteTo(out);
 }
 
 void WriteNumber(std::ostream& out, std::uint64_t value) {
-    WritePadded(out, Characters(value).View());
+    TextBuffer number;
+    AppendNumber(number, value);
+    Pad(number, 0, TakeWidth(out), out);
+    number.WriteTo(out);
 }
 
 double ParseAsAtof(std::string_view text) noexcept {

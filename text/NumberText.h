@@ -2,6 +2,8 @@
 // Nothing here asks any locale: the decimal separator is a point and digits are never grouped.
 #pragma once
 
+#include "TextBuffer.h"
+
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
@@ -19,7 +21,10 @@ struct NumberFormat {
     int precision = 6;
 };
 
-/// Appends the number to `text`, with blanks ahead where it is shorter than `width`.
+/// Appends the number to `text`, with blanks ahead where it is shorter than `width`. Many numbers
+/// belong into a `TextBuffer`, where they are written in place.
+void AppendNumber(TextBuffer& text, double value, NumberFormat format, std::size_t width = 0);
+void AppendNumber(TextBuffer& text, std::uint64_t value);
 void AppendNumber(std::string& text, double value, NumberFormat format, std::size_t width = 0);
 void AppendNumber(std::string& text, std::uint64_t value);
 
@@ -27,9 +32,13 @@ void AppendNumber(std::string& text, std::uint64_t value);
 /// notation counts as general.
 NumberFormat FormatOf(const std::ostream& out);
 
-/// Writes the number as `out << value` would in the classic locale, whatever locale is imbued:
-/// notation, precision, sign, point and letter case flags, width, fill and adjustment are the
-/// stream's. Clears the width, as an insertion does.
+/// Appends what `out << std::setw(width) << value` would write in the classic locale, whatever
+/// locale is imbued: notation, precision, sign, point and letter case flags, fill and adjustment
+/// are the stream's.
+void AppendAsInserted(TextBuffer& text, double value, const std::ostream& out, std::size_t width);
+
+/// Writes the number as `out << value` would in the classic locale; the width is the stream's
+/// too. Clears the width, as an insertion does.
 void WriteNumber(std::ostream& out, double value);
 void WriteNumber(std::ostream& out, std::uint64_t value);
 

@@ -11,6 +11,7 @@ using Common::Units;
 using Text::AppendNumber;
 using Text::FormatOf;
 using Text::NumberFormat;
+using Text::TextBuffer;
 
 namespace {
 
@@ -93,14 +94,14 @@ void WriteKey(std::ostream& out, std::string_view key, double value) {
 }
 
 // A row of the CSV form; the numbers are in the units of the file.
-void WriteCSVRow(std::ostream& out, std::string& row, const std::array<double, 4>& cells) {
+void WriteCSVRow(std::ostream& out, TextBuffer& row, const std::array<double, 4>& cells) {
     const NumberFormat format = FormatOf(out);
-    row = '\t';
+    row += '\t';
     for (const double cell : cells) {
         row += ',';
         AppendNumber(row, cell, format);
     }
-    Write(out, row);
+    row.WriteTo(out);
 }
 
 } // namespace
@@ -163,7 +164,7 @@ void PVOFormatter::OilTableEntry(std::ostream& out, double pressure, double prop
                                  bool firstOfRecord) {
     const NumberFormat format = FormatOf(out);
     const RowUnits& convert = IsField() ? fieldOilRow : metricRow;
-    row = '\t';
+    row += '\t';
     if (HasLiveOil(exportType) && firstOfRecord) {
         AppendNumber(row, convert.property(property), format, cellWidth);
         row += '\t';
@@ -175,7 +176,7 @@ void PVOFormatter::OilTableEntry(std::ostream& out, double pressure, double prop
     AppendNumber(row, convert.formationVolumeFactor(formationVolumeFactor), format, cellWidth);
     row += '\t';
     AppendNumber(row, Units::Viscosity_Pas_To_cp(viscosity), format, cellWidth);
-    Write(out, row);
+    row.WriteTo(out);
 }
 
 void PVOFormatter::GasTableEntry(std::ostream& out, double pressure, double property,
@@ -183,7 +184,7 @@ void PVOFormatter::GasTableEntry(std::ostream& out, double pressure, double prop
                                  bool firstOfRecord) {
     const NumberFormat format = FormatOf(out);
     const RowUnits& convert = IsField() ? fieldGasRow : metricRow;
-    row = '\t';
+    row += '\t';
     if (firstOfRecord) {
         AppendNumber(row, convert.pressure(pressure), format, cellWidth);
         row += '\t';
@@ -197,7 +198,7 @@ void PVOFormatter::GasTableEntry(std::ostream& out, double pressure, double prop
     AppendNumber(row, convert.formationVolumeFactor(formationVolumeFactor), format, cellWidth);
     row += '\t';
     AppendNumber(row, Units::Viscosity_Pas_To_cp(viscosity), format, cellWidth);
-    Write(out, row);
+    row.WriteTo(out);
 }
 
 void PVOFormatter::EndDataRecord(std::ostream& out) {

@@ -3,10 +3,10 @@
 #pragma once
 
 #include "FluidBench/Common/Units.h"
+#include "TextBuffer.h"
 #include "io/BlackOilExportFileWriter.h"
 
 #include <ostream>
-#include <string>
 
 namespace Orv::FluidBench::IO {
 
@@ -86,7 +86,7 @@ private:
 
     Common::Units::UNIT_TYPE units;
     EXPORT_TYPE exportType;
-    std::string row; // of the entry at hand; kept, so that a row costs no allocation
+    Text::TextBuffer row; // of the entry at hand; kept, so that a row costs no allocation
 };
 
 /// The CSV form, in metric units whatever the choice:
@@ -119,7 +119,7 @@ public:
     void EndDataRecord(std::ostream& out) override;
 
 private:
-    std::string row; // of the entry at hand; kept, so that a row costs no allocation
+    Text::TextBuffer row; // of the entry at hand; kept, so that a row costs no allocation
 };
 
 } // namespace Orv::FluidBench::IO

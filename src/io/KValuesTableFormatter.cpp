@@ -2,8 +2,8 @@
 
 #include "NumberText.h"
 
+#include <cstddef>
 #include <cstdint>
-#include <iomanip>
 #include <string>
 #include <string_view>
 
@@ -11,21 +11,38 @@ namespace Orv::FluidBench::IO {
 
 using Common::Units;
 using Model::KValuesTable;
+using Text::AppendAsInserted;
+using Text::TextBuffer;
 using Text::WriteNumber;
 
 namespace {
 
-constexpr int cellWidth = 24;
+constexpr std::size_t cellWidth = 24;
 
-// A cell is left-adjusted and a blank follows it. What is wider than a cell isn't cut.
-void WriteCell(std::ostream& out, std::string_view text) {
-    out << std::left << std::setw(cellWidth) << text << ' ';
-}
-void WriteCell(std::ostream& out, double value) {
-    out << std::left << std::setw(cellWidth);
-    WriteNumber(out, value);
-    out << ' ';
-}
+// A line on its way to the stream, which is left-adjusted. A blank follows each cell; what is wider
+// than a cell isn't cut.
+class CellLine {
+public:
+    explicit CellLine(std::ostream& out) : out_(out) {}
+
+    void Add(std::string_view text) {
+        const std::size_t end = line_.Size() + cellWidth;
+        (line_ += text).FillTo(end, out_.fill()) += ' ';
+    }
+    void Add(double value) {
+        AppendAsInserted(line_, value, out_, cellWidth);
+        line_ += ' ';
+    }
+    void End() {
+        line_ += '\n';
+        line_.WriteTo(out_);
+        out_.flush();
+    }
+
+private:
+    std::ostream& out_;
+    TextBuffer line_;
+};
 
 } // namespace
 
@@ -46,16 +63,19 @@ void KValuesTableFormatter::KVTable(std::ostream& out, const KValuesTable& table
                     IsField() ? Units::Temperature_K_To_F(table.Temperature) : table.Temperature);
         out << std::endl;
     }
-    WriteCell(out, "-- Components:");
+    out << std::left;
+    out.width(0);
+    CellLine line(out);
+    line.Add("-- Components:");
     for (const std::string& name : table.GetComponents()) {
-        WriteCell(out, name);
+        line.Add(name);
     }
-    out << std::endl;
-    WriteCell(out, IsField() ? "-- Units: psia" : "-- Units: bar");
+    line.End();
+    line.Add(IsField() ? "-- Units: psia" : "-- Units: bar");
     for (std::uint64_t column = 1; column < recordSize; ++column) {
-        WriteCell(out, "dimensionless");
+        line.Add("dimensionless");
     }
-    out << std::endl;
+    line.End();
 
     out << "KVTABLE" << std::endl << "-- K-Values" << std::endl << "-- " << std::endl;
     const auto convert = IsField() ? Units::Pressure_Pa_To_psi : Units::Pressure_Pa_To_bar;
@@ -63,12 +83,12 @@ void KValuesTableFormatter::KVTable(std::ostream& out, const KValuesTable& table
     for (std::uint64_t index = 0; index < tableSize; ++index) {
         if (recordSize > 0) {
             const std::vector<double>& record = table.GetRecord(index);
-            WriteCell(out, convert(record.at(0)));
+            line.Add(convert(record.at(0)));
             for (std::uint64_t column = 1; column < recordSize; ++column) {
-                WriteCell(out, record.at(column));
+                line.Add(record.at(column));
             }
         }
-        out << std::endl;
+        line.End();
     }
     out << '/' << std::endl << std::endl;
 }

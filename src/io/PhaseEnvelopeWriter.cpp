@@ -50,7 +50,6 @@ public:
     Cells(std::ostream& out, char separator) : out_(out), separator_(separator) {}
     Cells(const Cells&) = delete;
     Cells& operator=(const Cells&) = delete;
-    ~Cells() { Flush(); }
 
     void Add(std::string_view text) { (block_ += text) += separator_; }
     void Add(double number) {
@@ -59,20 +58,17 @@ public:
     }
     void EndLine(std::string_view text = {}) {
         (block_ += text) += '\n';
-        if (block_.size() >= blockSize) {
+        if (block_.Size() >= blockSize) {
             Flush();
         }
     }
+    // Writes what is left; to be called at the end.
+    void Flush() { block_.WriteTo(out_); }
 
 private:
-    void Flush() {
-        out_.write(block_.data(), static_cast<std::streamsize>(block_.size()));
-        block_.clear();
-    }
-
     std::ostream& out_;
     char separator_;
-    std::string block_;
+    Text::TextBuffer block_;
 };
 
 // A pair of columns: its two heading cells and its points.
@@ -171,6 +167,7 @@ void WritePhaseEnvelopes(std::ostream& out, const std::vector<CommonPlottingObje
     for (const CommonPlottingObject& plot : plots) {
         WritePlot(cells, plot);
     }
+    cells.Flush();
 }
 
 } // namespace Orv::FluidBench::Impl::IO
