@@ -18,6 +18,7 @@ using Common::Units;
 using Model::CompositionalFluid;
 using Model::FluidComponent;
 using Text::AppendNumber;
+using Text::TextBuffer;
 using Utilities::ModelParameters;
 using Utilities::Strings;
 
@@ -143,16 +144,16 @@ bool IsFull(std::size_t lineLength, double next) {
     if (lineLength + longestSixDigitNumber + 1 < fullInteractionLine) {
         return false;
     }
-    std::string measure;
+    TextBuffer measure;
     AppendNumber(measure, next, {});
-    return lineLength + measure.size() + 1 >= fullInteractionLine;
+    return lineLength + measure.Size() + 1 >= fullInteractionLine;
 }
 
 // Writes a row of the interaction matrix: the component `row` with every one before it. All lines
 // of the row go to the file at once, because a flush per line takes longer than the numbers.
 void WriteInteractionRow(std::ostream& deck, const CompositionalFluid& fluid,
                          const std::vector<std::string>& names, std::size_t row,
-                         std::string& lines) {
+                         TextBuffer& lines) {
     constexpr auto set = pvtEnumBICType::ReservoirEoS;
     std::size_t lineBegin = 0;
     for (std::size_t column = 0; column < row; ++column) {
@@ -161,14 +162,14 @@ void WriteInteractionRow(std::ostream& deck, const CompositionalFluid& fluid,
             continue;
         }
         const double value = fluid.GetBIC(names[row], names[column], set);
-        if (IsFull(lines.size() - lineBegin, value)) {
+        if (IsFull(lines.Size() - lineBegin, value)) {
             lines += '\n';
-            lineBegin = lines.size();
+            lineBegin = lines.Size();
         }
         AppendNumber(lines, value, deckNumber);
         lines += ' ';
     }
-    if (!lines.empty()) {
+    if (lines.Size() > 0) {
         WriteDeckLine(deck, lines);
     }
 }
@@ -251,7 +252,7 @@ void WriteAcentricFactors(std::ostream& deck, const Components& components, std:
 void WriteBinaryInteractions(std::ostream& deck, const CompositionalFluid& fluid, std::size_t n) {
     BeginSection(deck, "BIC");
     const std::vector<std::string> names = fluid.ListComponents();
-    std::string lines;
+    TextBuffer lines;
     for (std::size_t row = 0; row < n; ++row) {
         WriteInteractionRow(deck, fluid, names, row, lines);
     }

@@ -24,6 +24,12 @@ void WriteDeckLine(std::ostream& deck, std::string& text) {
     text.clear();
 }
 
+void WriteDeckLine(std::ostream& deck, Text::TextBuffer& text) {
+    text += '\n';
+    text.WriteTo(deck);
+    deck.flush();
+}
+
 void WriteDeckLine(std::ostream& deck, const char* text) {
     std::string line(text);
     WriteDeckLine(deck, line);

@@ -3,6 +3,7 @@
 
 #include "FluidBench/Common/Enumerations.h"
 #include "NumberText.h"
+#include "TextBuffer.h"
 
 #include <ostream>
 #include <string>
@@ -19,9 +20,10 @@ inline constexpr Text::NumberFormat deckNumber{std::chars_format::general, 10};
 ///     /
 std::string FileUnitHeader(bool metric);
 
-/// Writes `text` as a line, flushes the stream and leaves `text` empty, so that one string serves
+/// Writes `text` as a line, flushes the stream and leaves `text` empty, so that one object serves
 /// line after line.
 void WriteDeckLine(std::ostream& deck, std::string& text);
+void WriteDeckLine(std::ostream& deck, Text::TextBuffer& text);
 
 /// Writes a line of fixed text.
 void WriteDeckLine(std::ostream& deck, const char* text);

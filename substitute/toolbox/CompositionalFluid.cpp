@@ -96,8 +96,8 @@ void CompositionalFluidCommand::SetGlobalName(std::size_t index, const std::stri
 
 std::optional<double> CompositionalFluidCommand::Coefficient(const std::string& first,
                                                              const std::string& second) const {
-    const auto row = Find(first);
-    const auto column = Find(second);
+    const auto row = FindNear(first_, first);
+    const auto column = FindNear(second_, second);
     if (!row || !column || *row == *column) {
         return std::nullopt;
     }
@@ -106,23 +106,26 @@ std::optional<double> CompositionalFluidCommand::Coefficient(const std::string& 
     return isSet ? std::optional(coefficients_[place]) : std::nullopt;
 }
 
-// Half a million coefficients are set one after another, the names of each being those of the last
-// one or the next in order. Then comparing is faster than looking up.
-std::size_t CompositionalFluidCommand::GetNear(std::size_t place,
-                                               const std::string& componentName) const {
-    for (const std::size_t candidate : {place, place + 1}) {
-        if (candidate < components_.size() &&
-            components_[candidate].component.GetName() == componentName) {
-            return candidate;
+// Half a million coefficients are set or asked for one after another, the names of each being those
+// of the last one or the next in order. Then comparing is faster than looking up.
+std::optional<std::size_t>
+CompositionalFluidCommand::FindNear(Hint& hint, const std::string& componentName) const {
+    const std::size_t last = hint.Place();
+    for (const std::size_t place : {last, last + 1}) {
+        if (place < components_.size() && components_[place].component.GetName() == componentName) {
+            hint.MoveTo(place);
+            return place;
         }
     }
-    return Get(componentName);
+    const auto found = Find(componentName);
+    hint.MoveTo(found.value_or(last));
+    return found;
 }
 
 void CompositionalFluidCommand::SetCoefficient(const std::string& first, const std::string& second,
                                                double value) {
-    const std::size_t row = GetNear(lastFirst_, first);
-    const std::size_t column = GetNear(lastSecond_, second);
+    const std::size_t row = Require(FindNear(first_, first), first);
+    const std::size_t column = Require(FindNear(second_, second), second);
     if (row == column) {
         throw std::invalid_argument("Component '" + first +
                                     "' has no interaction coefficient with itself");
@@ -137,8 +140,6 @@ void CompositionalFluidCommand::SetCoefficient(const std::string& first, const s
         coefficients_.resize(n * (n - 1) / 2, std::numeric_limits<double>::quiet_NaN());
     }
     coefficients_[place] = value;
-    lastFirst_ = row;
-    lastSecond_ = column;
 }
 
 } // namespace Orv::FluidBench::Impl::Command

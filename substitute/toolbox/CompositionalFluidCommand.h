@@ -6,6 +6,7 @@
 #include "FluidBench/Impl/Command/CompositionalFluidCommand.h"
 #include "FluidBench/Model/FluidComponent.h"
 
+#include <atomic>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -55,7 +56,22 @@ public:
     void SetCoefficient(const std::string& first, const std::string& second, double value);
 
 private:
-    std::size_t GetNear(std::size_t place, const std::string& componentName) const;
+    // Where a look-up begins. Threads that read one fluid share it: wherever it points, a name is
+    // found, and no copy depends on it.
+    class Hint {
+    public:
+        Hint() = default;
+        Hint(const Hint&) noexcept {}
+        Hint& operator=(const Hint&) noexcept { return *this; }
+
+        std::size_t Place() const noexcept { return place_.load(std::memory_order_relaxed); }
+        void MoveTo(std::size_t place) noexcept { place_.store(place, std::memory_order_relaxed); }
+
+    private:
+        std::atomic<std::size_t> place_ = 0;
+    };
+
+    std::optional<std::size_t> FindNear(Hint& hint, const std::string& componentName) const;
 
     std::vector<Entry> components_;
     std::unordered_map<std::string, std::size_t> indexOfName_;
@@ -63,9 +79,9 @@ private:
     // Row i holds the i coefficients of component i with those before it. Coefficients are finite;
     // a not-a-number stands where none is set.
     std::vector<double> coefficients_;
-    // Where the components of the coefficient set last are.
-    std::size_t lastFirst_ = 0;
-    std::size_t lastSecond_ = 0;
+    // Where the components of the coefficient that was set or asked for last are.
+    mutable Hint first_;
+    mutable Hint second_;
 };
 
 } // namespace Orv::FluidBench::Impl::Command
