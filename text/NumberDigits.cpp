@@ -37,6 +37,7 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <string_view>
 
 namespace Orv::Text {
 
@@ -256,18 +257,16 @@ char* PutGeneral(char* out, Magnitude number, int precision) {
     if (rounded.exponent >= 0) {
         return DropZeros(PutWithPoint(out, rounded.digits, precision, rounded.exponent + 1));
     }
-    *out++ = '0';
-    *out++ = '.';
-    out = PutDigits(out, 0, -rounded.exponent - 1);
-    return DropZeros(PutDigits(out, rounded.digits, precision));
+    constexpr std::string_view zeros = "0.000"; // as many as the least exponent needs
+    zeros.copy(out, zeros.size());
+    return DropZeros(PutDigits(out + 1 - rounded.exponent, rounded.digits, precision));
 }
 
 } // namespace
 
 char* WriteDigits(char* out, double value, std::chars_format notation, int precision) noexcept {
-    if (std::bit_cast<std::int64_t>(value) < 0) {
-        *out++ = '-';
-    }
+    *out = '-';
+    out += std::bit_cast<std::int64_t>(value) < 0 ? 1 : 0;
     const Magnitude number = MagnitudeOf(value);
     switch (notation) {
     case std::chars_format::fixed:

@@ -1,6 +1,7 @@
 // Text on its way to a stream.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <ostream>
 #include <string_view>
@@ -39,6 +40,8 @@ public:
     /// Valid until the next change.
     std::string_view View() const noexcept { return {room_.data(), size_}; }
     void Clear() noexcept { size_ = 0; }
+    /// Drops what stands behind the first `size` characters.
+    void CutTo(std::size_t size) noexcept { size_ = std::min(size, size_); }
     /// Puts `count` of the character ahead of what stands at `position`.
     void Insert(std::size_t position, std::size_t count, char character);
 

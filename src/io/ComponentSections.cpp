@@ -5,8 +5,11 @@
 #include "FluidBench/Utilities/ModelParameters.h"
 #include "FluidBench/Utilities/Strings.h"
 #include "NumberText.h"
+#include "TextBuffer.h"
+#include "TextFile.h"
 
 #include <string>
+#include <string_view>
 
 namespace Orv::FluidBench::IO {
 
@@ -18,6 +21,7 @@ using Common::Units;
 using Model::CompositionalFluid;
 using Model::FluidComponent;
 using Text::AppendNumber;
+using Text::blockSize;
 using Text::TextBuffer;
 using Utilities::ModelParameters;
 using Utilities::Strings;
@@ -88,42 +92,66 @@ constexpr PropertySection criticalVolumeForViscosity{
     "VCRITVIS", molarVolume,   &FC::GetVcritViscositySource,  &FC::GetVcritViscosity};
 // clang-format on
 
-constexpr const char* separator = "--";
-constexpr const char* noValue = "0.0";
-constexpr const char* noVolumeShift = "0";
+constexpr std::string_view separator = "--";
+constexpr std::string_view noValue = "0.0";
+constexpr std::string_view noVolumeShift = "0";
 constexpr std::size_t fullInteractionLine = 76;
 constexpr std::size_t longestSixDigitNumber = 13; // -1.23457e-300
 
-void BeginSection(std::ostream& deck, const char* keyword) {
-    WriteDeckLine(deck, keyword);
-    WriteDeckLine(deck, separator);
-}
+// A section on its way to the deck. Its lines go there together, because a flush for each takes
+// longer than its number; only a large section goes in blocks.
+class Section {
+public:
+    Section(std::ostream& deck, std::string_view keyword) : deck_(deck) {
+        AddLine(keyword);
+        AddLine(separator);
+    }
 
-void EndSection(std::ostream& deck) {
-    WriteDeckLine(deck, "/");
-    WriteDeckLine(deck, separator);
-}
+    /// What is added here is ended by `EndLine`.
+    TextBuffer& Line() noexcept { return lines_; }
+    void EndLine() {
+        lines_ += '\n';
+        if (lines_.Size() >= blockSize) {
+            lines_.WriteTo(deck_);
+        }
+    }
+    void AddLine(std::string_view text) {
+        lines_ += text;
+        EndLine();
+    }
+    void AddLine(double number) {
+        AppendNumber(lines_, number, deckNumber);
+        EndLine();
+    }
+    void End() {
+        AddLine("/");
+        lines_ += separator;
+        WriteDeckLine(deck_, lines_);
+    }
 
-void WriteSection(std::ostream& deck, const PropertySection& section, const Components& components,
+private:
+    std::ostream& deck_;
+    TextBuffer lines_;
+};
+
+void WriteSection(std::ostream& deck, const PropertySection& property, const Components& components,
                   std::size_t n, bool metric) {
-    const Quantity& quantity = section.quantity;
+    const Quantity& quantity = property.quantity;
     const char* const unit = metric ? quantity.metricUnit : quantity.fieldUnit;
     const Conversion convert = metric ? quantity.toMetric : quantity.toField;
     if (unit != noUnit) {
         WriteDeckLine(deck, unit);
     }
-    BeginSection(deck, section.keyword);
-    std::string line;
+    Section section(deck, property.keyword);
     for (std::size_t i = 0; i < n; ++i) {
         const FluidComponent& component = components[i];
-        if ((component.*section.source)() == pvtEnumPropertySource::NoValue) {
-            line = noValue;
+        if ((component.*property.source)() == pvtEnumPropertySource::NoValue) {
+            section.AddLine(noValue);
         } else {
-            AppendNumber(line, convert((component.*section.value)()), deckNumber);
+            section.AddLine(convert((component.*property.value)()));
         }
-        WriteDeckLine(deck, line);
     }
-    EndSection(deck);
+    section.End();
 }
 
 void WriteUnitless(std::ostream& deck, const PropertySection& section, const Components& components,
@@ -138,31 +166,33 @@ bool HasVolumeShift(pvtEnumEoS eos) {
            eos == pvtEnumEoS::SoaveRedlichKwongVolumeShift;
 }
 
-// Whether a line of this length is broken ahead of a known value. The value counts with the six
-// digits of a plain text stream and a blank, though it is written with ten digits.
-bool IsFull(std::size_t lineLength, double next) {
-    if (lineLength + longestSixDigitNumber + 1 < fullInteractionLine) {
+// Whether the line that begins at `lineBegin` is broken ahead of a known value. The value counts
+// with the six digits of a plain text stream and a blank, though it is written with ten digits.
+bool IsFull(TextBuffer& lines, std::size_t lineBegin, double next) {
+    const std::size_t end = lines.Size();
+    if (end - lineBegin + longestSixDigitNumber + 1 < fullInteractionLine) {
         return false;
     }
-    TextBuffer measure;
-    AppendNumber(measure, next, {});
-    return lineLength + measure.Size() + 1 >= fullInteractionLine;
+    AppendNumber(lines, next, {}); // there for its length alone
+    const bool isFull = lines.Size() - lineBegin + 1 >= fullInteractionLine;
+    lines.CutTo(end);
+    return isFull;
 }
 
-// Writes a row of the interaction matrix: the component `row` with every one before it. All lines
-// of the row go to the file at once, because a flush per line takes longer than the numbers.
-void WriteInteractionRow(std::ostream& deck, const CompositionalFluid& fluid,
-                         const std::vector<std::string>& names, std::size_t row,
-                         TextBuffer& lines) {
+// Adds a row of the interaction matrix: the component `row` with every one before it. `lines` is
+// only room to put it together.
+void AddInteractionRow(Section& section, const CompositionalFluid& fluid,
+                       const std::vector<std::string>& names, std::size_t row, TextBuffer& lines) {
     constexpr auto set = pvtEnumBICType::ReservoirEoS;
     std::size_t lineBegin = 0;
+    lines.Clear();
     for (std::size_t column = 0; column < row; ++column) {
         if (fluid.GetBICSource(names[row], names[column], set) == pvtEnumPropertySource::NoValue) {
             lines += "0.0 ";
             continue;
         }
         const double value = fluid.GetBIC(names[row], names[column], set);
-        if (IsFull(lines.Size() - lineBegin, value)) {
+        if (IsFull(lines, lineBegin, value)) {
             lines += '\n';
             lineBegin = lines.Size();
         }
@@ -170,28 +200,26 @@ void WriteInteractionRow(std::ostream& deck, const CompositionalFluid& fluid,
         lines += ' ';
     }
     if (lines.Size() > 0) {
-        WriteDeckLine(deck, lines);
+        section.AddLine(lines.View());
     }
 }
 
 } // namespace
 
 void WriteComponentNames(std::ostream& deck, const CompositionalFluid& fluid, std::size_t n) {
-    std::string line;
-    BeginSection(deck, "NCOMPS");
-    AppendNumber(line, std::uint64_t{n});
-    WriteDeckLine(deck, line);
-    EndSection(deck);
+    Section count(deck, "NCOMPS");
+    AppendNumber(count.Line(), std::uint64_t{n});
+    count.EndLine();
+    count.End();
 
-    BeginSection(deck, "CNAMES");
+    Section section(deck, "CNAMES");
     const std::vector<std::string> names = fluid.ListComponents();
     for (std::size_t i = 0; i < n; ++i) {
         std::string name = names[i];
         Strings::RemoveAllSpaces(name);
-        line = "'" + name + "'";
-        WriteDeckLine(deck, line);
+        section.AddLine("'" + name + "'");
     }
-    EndSection(deck);
+    section.End();
 }
 
 void WriteMolecularWeights(std::ostream& deck, const Components& components, std::size_t n) {
@@ -227,22 +255,18 @@ void WriteVolumeShifts(std::ostream& deck, const CompositionalFluid& fluid,
     if (!HasVolumeShift(fluid.GetEoS())) {
         return;
     }
-    BeginSection(deck, "SSHIFT");
-    std::string line;
+    Section section(deck, "SSHIFT");
     for (std::size_t i = 0; i < n; ++i) {
         const FluidComponent& component = components[i];
         if (component.GetEoSVolumeShiftSource() == pvtEnumPropertySource::NoValue) {
-            line = noVolumeShift;
+            section.AddLine(noVolumeShift);
         } else {
             const bool temperatureDependent = fluid.GetUseTemperatureDependentVolumeShift();
-            AppendNumber(
-                line,
-                component.GetEoSTDependantVolumeShift(reservoirTemperature, temperatureDependent),
-                deckNumber);
+            section.AddLine(
+                component.GetEoSTDependantVolumeShift(reservoirTemperature, temperatureDependent));
         }
-        WriteDeckLine(deck, line);
     }
-    EndSection(deck);
+    section.End();
 }
 
 void WriteAcentricFactors(std::ostream& deck, const Components& components, std::size_t n) {
@@ -250,13 +274,13 @@ void WriteAcentricFactors(std::ostream& deck, const Components& components, std:
 }
 
 void WriteBinaryInteractions(std::ostream& deck, const CompositionalFluid& fluid, std::size_t n) {
-    BeginSection(deck, "BIC");
+    Section section(deck, "BIC");
     const std::vector<std::string> names = fluid.ListComponents();
     TextBuffer lines;
     for (std::size_t row = 0; row < n; ++row) {
-        WriteInteractionRow(deck, fluid, names, row, lines);
+        AddInteractionRow(section, fluid, names, row, lines);
     }
-    EndSection(deck);
+    section.End();
 }
 
 void WriteParachors(std::ostream& deck, const Components& components, std::size_t n) {
@@ -267,27 +291,25 @@ void WriteViscosityAndComposition(std::ostream& deck, const CompositionalFluid& 
                                   const Components& components, std::size_t n, bool metric) {
     WriteSection(deck, criticalVolumeForViscosity, components, n, metric);
 
-    std::string line;
-    BeginSection(deck, "LBCCOEF");
+    Section correlation(deck, "LBCCOEF");
     if (fluid.GetViscosityCorrelation() == pvtEnumViscosityMethod::LohrenzBrayClark) {
         const std::vector<double> coefficients =
             ModelParameters::GetLohrenzBrayClarkViscosityCoeffs();
         constexpr std::size_t numberOfCoefficients = 5;
         for (std::size_t i = 0; i < numberOfCoefficients; ++i) {
-            AppendNumber(line, coefficients[i], deckNumber);
-            line += ' ';
+            AppendNumber(correlation.Line(), coefficients[i], deckNumber);
+            correlation.Line() += ' ';
         }
-        WriteDeckLine(deck, line);
+        correlation.EndLine();
     }
-    EndSection(deck);
+    correlation.End();
 
-    BeginSection(deck, "ZI");
+    Section composition(deck, "ZI");
     const std::vector<std::string> names = fluid.ListComponents();
     for (std::size_t i = 0; i < n; ++i) {
-        AppendNumber(line, fluid.GetComponentFraction(names[i]), deckNumber);
-        WriteDeckLine(deck, line);
+        composition.AddLine(fluid.GetComponentFraction(names[i]));
     }
-    EndSection(deck);
+    composition.End();
 }
 
 } // namespace Orv::FluidBench::IO

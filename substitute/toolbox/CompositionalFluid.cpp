@@ -96,36 +96,41 @@ void CompositionalFluidCommand::SetGlobalName(std::size_t index, const std::stri
 
 std::optional<double> CompositionalFluidCommand::Coefficient(const std::string& first,
                                                              const std::string& second) const {
-    const auto row = FindNear(first_, first);
-    const auto column = FindNear(second_, second);
-    if (!row || !column || *row == *column) {
+    const std::size_t row = FindNear(first_, first);
+    const std::size_t column = FindNear(second_, second);
+    if (std::max(row, column) == components_.size() || row == column) {
         return std::nullopt;
     }
-    const std::size_t place = PlaceInTriangle(*row, *column);
+    const std::size_t place = PlaceInTriangle(row, column);
     const bool isSet = place < coefficients_.size() && !std::isnan(coefficients_[place]);
     return isSet ? std::optional(coefficients_[place]) : std::nullopt;
 }
 
 // Half a million coefficients are set or asked for one after another, the names of each being those
 // of the last one or the next in order. Then comparing is faster than looking up.
-std::optional<std::size_t>
-CompositionalFluidCommand::FindNear(Hint& hint, const std::string& componentName) const {
+std::size_t CompositionalFluidCommand::FindNear(Hint& hint,
+                                                const std::string& componentName) const {
     const std::size_t last = hint.Place();
-    for (const std::size_t place : {last, last + 1}) {
-        if (place < components_.size() && components_[place].component.GetName() == componentName) {
+    for (std::size_t place = last; place < components_.size() && place <= last + 1; ++place) {
+        if (components_[place].component.GetName() == componentName) {
             hint.MoveTo(place);
             return place;
         }
     }
-    const auto found = Find(componentName);
-    hint.MoveTo(found.value_or(last));
-    return found;
+    const std::size_t place = Find(componentName).value_or(components_.size());
+    hint.MoveTo(place);
+    return place;
+}
+
+std::size_t CompositionalFluidCommand::GetNear(Hint& hint, const std::string& componentName) const {
+    const std::size_t place = FindNear(hint, componentName);
+    return place < components_.size() ? place : Get(componentName);
 }
 
 void CompositionalFluidCommand::SetCoefficient(const std::string& first, const std::string& second,
                                                double value) {
-    const std::size_t row = Require(FindNear(first_, first), first);
-    const std::size_t column = Require(FindNear(second_, second), second);
+    const std::size_t row = GetNear(first_, first);
+    const std::size_t column = GetNear(second_, second);
     if (row == column) {
         throw std::invalid_argument("Component '" + first +
                                     "' has no interaction coefficient with itself");

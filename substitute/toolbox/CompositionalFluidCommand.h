@@ -71,7 +71,9 @@ private:
         std::atomic<std::size_t> place_ = 0;
     };
 
-    std::optional<std::size_t> FindNear(Hint& hint, const std::string& componentName) const;
+    // The place of the component; behind the last one where there is none.
+    std::size_t FindNear(Hint& hint, const std::string& componentName) const;
+    std::size_t GetNear(Hint& hint, const std::string& componentName) const;
 
     std::vector<Entry> components_;
     std::unordered_map<std::string, std::size_t> indexOfName_;
