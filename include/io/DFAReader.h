@@ -12,15 +12,15 @@ namespace Orv::FluidBench::IO {
 
 /// The rows of one export as they stand in the file. Entry k of each vector belongs to row k.
 struct Data {
-    std::vector<std::vector<double>> rows;
-    std::vector<std::string> stationLabels;
-    std::vector<std::string> wellNames;
+    std::vector<std::vector<double>> rows;  ///< the numbers behind the texts, across the whole row
+    std::vector<std::string> stationLabels; ///< the second quoted texts
+    std::vector<std::string> wellNames;     ///< the first quoted texts
 };
 
 /// The stations of one well, in the units of the file. Entry k of each vector belongs to station k;
 /// the stations stand in ascending depth.
 struct WellData {
-    std::string name;
+    std::string name;                              ///< as in the file
     std::vector<double> pressures;                 ///< psi; 0.0 where none was measured
     std::vector<double> temperatures;              ///< degrees F
     std::vector<double> densities;                 ///< g/cc

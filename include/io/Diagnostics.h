@@ -17,7 +17,7 @@ enum class Severity : std::int32_t {
 
 /// One remark of a reader, about one place of a text. A value.
 struct Diagnostic {
-    Severity severity = Severity::Note;
+    Severity severity = Severity::Note; ///< what to make of it
     std::string file;       ///< as the caller named it; empty for a stream without a name
     std::uint64_t line = 0; ///< counted from 1; 0 where no line applies
     std::string code;     ///< stable, "blackoil.row-skipped" for one; docs/diagnostics.md lists all

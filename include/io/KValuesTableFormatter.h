@@ -18,8 +18,11 @@ public:
     IKValuesTableFormatter& operator=(const IKValuesTableFormatter&) = default;
     virtual ~IKValuesTableFormatter();
 
+    /// The line that has a simulator repeat its input.
     virtual void Echo(std::ostream& out) const = 0;
+    /// The table's heading and records.
     virtual void KVTable(std::ostream& out, const Model::KValuesTable& table) const = 0;
+    /// What ends the table, where it doesn't carry its own end.
     virtual void EndDataRecord(std::ostream& out) const = 0;
 };
 
@@ -28,6 +31,7 @@ public:
 /// alone; one thread at a time may use a stream.
 class FLUIDBENCH_IO_API KValuesTableFormatter : public IKValuesTableFormatter {
 public:
+    /// Takes any value of the choice.
     explicit KValuesTableFormatter(Common::Units::UNIT_TYPE unitType);
     KValuesTableFormatter(const KValuesTableFormatter&) = default;
     KValuesTableFormatter& operator=(const KValuesTableFormatter&) = default;

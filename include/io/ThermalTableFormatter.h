@@ -20,21 +20,30 @@ public:
     IThermalTableFormatter& operator=(const IThermalTableFormatter&) = default;
     virtual ~IThermalTableFormatter();
 
+    /// The line that has a simulator repeat its input.
     virtual void Echo(std::ostream& out) const = 0;
+    /// The standard pressure in Pa and temperature in K.
     virtual void StandardConditions(std::ostream& out, double pressure,
                                     double temperature) const = 0;
+    /// The number of components.
     virtual void NComps(std::ostream& out, std::uint64_t count) const = 0;
+    /// The names of the components.
     virtual void CNames(std::ostream& out, const std::vector<std::string>& names) const = 0;
+    /// A section with one value per component, led by a converter to the units of the file.
     virtual void GenerateKeyword(std::ostream& out, const std::string& units,
                                  const std::string& keyword, const std::string& title,
                                  const std::vector<double>& values,
                                  double (*fieldConverter)(double),
                                  double (*metricConverter)(double)) const = 0;
+    /// The heading of K-values without a fit.
     virtual void KVWi(std::ostream& out) const = 0;
+    /// The coefficients of the K-value fit: `a` without a unit, `b` in Pa, `c` in 1/Pa, `d` and `e`
+    /// in K.
     virtual void GenerateCrookston(std::ostream& out, const std::vector<double>& a,
                                    const std::vector<double>& b, const std::vector<double>& c,
                                    const std::vector<double>& d,
                                    const std::vector<double>& e) const = 0;
+    /// What ends the file, where its sections don't carry their own ends.
     virtual void EndDataRecord(std::ostream& out) const = 0;
 };
 
@@ -52,6 +61,7 @@ public:
 ///     /
 class FLUIDBENCH_IO_API ThermalTableFormatter : public IThermalTableFormatter {
 public:
+    /// Takes any value of the choice.
     explicit ThermalTableFormatter(Common::Units::UNIT_TYPE unitType);
     ThermalTableFormatter(const ThermalTableFormatter&) = default;
     ThermalTableFormatter& operator=(const ThermalTableFormatter&) = default;
@@ -63,6 +73,7 @@ public:
     /// Pa and K, written as psi and degrees Fahrenheit or as bar and degrees Celsius.
     void StandardConditions(std::ostream& out, double pressure, double temperature) const override;
 
+    /// A section with one number.
     void NComps(std::ostream& out, std::uint64_t count) const override;
 
     /// Names in apostrophes, just as they are.

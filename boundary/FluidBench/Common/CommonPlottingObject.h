@@ -18,13 +18,13 @@ class FLUIDBENCH_BOUNDARY_API CommonPlottingObject {
 public:
     /// What an axis measures, in model units.
     enum class AxisType : std::int32_t {
-        Temperature = 0, // K
-        Pressure = 1,    // Pa
-        Viscosity = 2,   // Pa.s
-        Density = 3,     // kg/m3
+        Temperature = 0, ///< K
+        Pressure = 1,    ///< Pa
+        Viscosity = 2,   ///< Pa.s
+        Density = 3,     ///< kg/m3
         Fraction = 4,
-        Enthalpy = 5,   // J/mol
-        MolarVolume = 6 // m3/mol
+        Enthalpy = 5,   ///< J/mol
+        MolarVolume = 6 ///< m3/mol
     };
 
     /// A plot without lines.
@@ -40,11 +40,13 @@ public:
     void AddLine(const Line& line);
     void AddLine(Line&& line);
 
+    /// Whether there are lines of that type and phase, and how many.
     bool HasLine(Line::Type type, Line::Phase phase) const noexcept;
     int NumberOfLines(Line::Type type, Line::Phase phase) const noexcept;
     /// Valid until a line is added. Throws `std::out_of_range` where there is no such line.
     const Line& GetLine(Line::Type type, Line::Phase phase, int index) const;
 
+    /// As given when the plot was made.
     AxisType GetXAxisType() const noexcept;
     AxisType GetYAxisType() const noexcept;
 

@@ -13,7 +13,9 @@ namespace Orv::FluidBench::Common {
 /// Base of the toolbox's exceptions.
 class FLUIDBENCH_BOUNDARY_API Exception : public std::exception {
 public:
+    /// The text is a whole sentence.
     explicit Exception(std::string text) : text_(std::move(text)) {}
+    /// Valid as long as the exception object.
     const char* what() const noexcept override { return text_.c_str(); }
 
 private:

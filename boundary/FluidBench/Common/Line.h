@@ -25,7 +25,7 @@ public:
         HydrateTypeI = 4,
         HydrateTypeII = 5,
         Ice = 6,
-        VapourFraction = 7, // all along which the vapour has the line's phase fraction
+        VapourFraction = 7, ///< all along which the vapour has the line's phase fraction
         PX2 = 13,
         PX3 = 14,
         TX2 = 15,
@@ -43,7 +43,9 @@ public:
     Line& operator=(Line&&) noexcept;
     ~Line();
 
+    /// In the units of the plot's axes.
     std::vector<Point> GetPoints() const;
+    /// 0 to 1, and 0.0 for any line but those of `VapourFraction`.
     double GetPhaseFraction() const noexcept;
 
     // The stand-in's own operations.
@@ -52,6 +54,7 @@ public:
     const std::string& GetName() const noexcept;
     /// What `GetPoints` copies.
     const std::vector<Point>& ViewPoints() const noexcept;
+    /// As given when the line was made.
     Type GetType() const noexcept;
     Phase GetPhase() const noexcept;
 

@@ -36,12 +36,16 @@ public:
     Message(pvtEnumErrorType type, pvtEnumErrorCode code, std::int32_t id,
             std::vector<std::string> parameters);
 
-    pvtEnumErrorType GetErrorType() const noexcept { return errorType; }
-    pvtEnumErrorCode GetErrorCode() const noexcept { return errorCode; }
-    /// One English sentence with the parameters in it.
+    /// One English sentence with the parameters in it. What is given by reference is valid until
+    /// the message is assigned to or goes.
     const std::string& GetText() const noexcept { return text; }
+    /// What the sentence is made of.
     std::int32_t GetMessageId() const noexcept { return messageId; }
     const std::vector<std::string>& GetParameters() const noexcept { return parameters; }
+    /// Whether the message tells of a failure.
+    pvtEnumErrorCode GetErrorCode() const noexcept { return errorCode; }
+    /// What kind of thing the message is about.
+    pvtEnumErrorType GetErrorType() const noexcept { return errorType; }
 
 private:
     /// Builds `text` from `messageId` and `parameters`.

@@ -20,7 +20,7 @@ public:
         Ice = 4,
         HydrateTypeI = 5,
         HydrateTypeII = 6,
-        Quality = 7 // all along which the vapour has the line's fraction
+        Quality = 7 ///< all along which the vapour has the line's fraction
     };
 
     /// A line without points. The fraction is that of a quality line and 0.0 for any other.
@@ -31,10 +31,11 @@ public:
     PTline& operator=(PTline&&) noexcept;
     ~PTline();
 
-    /// Replaces the points by those that the columns make: entry k of each belongs to point k. What
-    /// one column has more than the other is dropped.
+    /// Replaces the points by those that the columns make, in Pa and K: entry k of each belongs to
+    /// point k. What one column has more than the other is dropped.
     void SetLine(const std::vector<double>& pressures, const std::vector<double>& temperatures);
 
+    /// As given when the line was made; a fraction is 0 to 1.
     PTlineIdentifier GetLineType() const noexcept;
     double GetQualityLineFraction() const noexcept;
     std::vector<double> GetPressures() const;    ///< Pa

@@ -9,6 +9,7 @@ namespace Orv::FluidBench::Common {
 /// A value: whether the phase exists, and what it consists of.
 class Phase {
 public:
+    /// Whether the stage has this phase; at first it has not.
     bool Present() const noexcept { return isPresent_; }
 
     /// One fraction per component, in the fluid's order; of no meaning while the phase isn't

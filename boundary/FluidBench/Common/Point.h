@@ -5,8 +5,8 @@ namespace Orv::FluidBench::Common {
 
 /// In the units of the plot's axes.
 struct Point {
-    double x = 0.0;
-    double y = 0.0;
+    double x = 0.0; ///< along the x axis
+    double y = 0.0; ///< along the y axis
 };
 
 } // namespace Orv::FluidBench::Common

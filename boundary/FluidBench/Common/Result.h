@@ -5,8 +5,8 @@ namespace Orv::FluidBench::Common {
 
 /// A number of a stage, in model units, or none.
 struct Result {
-    bool IsSet = false;
-    double Value = 0.0;
+    bool IsSet = false; ///< whether there is a number
+    double Value = 0.0; ///< of no meaning where none is set
 
     /// The number; 0.0 where none is set.
     double GetValue() const noexcept { return IsSet ? Value : 0.0; }

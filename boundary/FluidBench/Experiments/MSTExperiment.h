@@ -16,6 +16,8 @@ namespace Orv::FluidBench::Experiments {
 /// the function that it runs.
 class FLUIDBENCH_BOUNDARY_API MSTExperiment {
 public:
+    /// Leads the fluid through the stages, each with its pressure and temperature, and gives what a
+    /// run gives.
     using Separator = std::function<ExperimentResults(const Model::CompositionalFluid&,
                                                       const std::vector<Stage>&)>;
 

@@ -20,9 +20,12 @@ public:
     ObservedExperiment& operator=(ObservedExperiment&&) noexcept;
     virtual ~ObservedExperiment();
 
+    /// In the order in which they were measured, or by depth: whoever fills the experiment decides.
     std::vector<Stage> Stages;
 
     // The stand-in's own operation.
+
+    /// As given when the experiment was made.
     ExperimentType GetType() const noexcept { return type_; }
 
 private:

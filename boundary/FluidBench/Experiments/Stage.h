@@ -21,11 +21,11 @@ struct Stage {
     Stage& operator=(Stage&&) noexcept = default;
     ~Stage() = default;
 
-    Common::Phase VapourPhase;
-    Common::Phase LiquidPhase;
-    StageResultsHandle Results;
-    Model::CompositionalFluid Fluid{""};
-    std::int32_t FluidState = 0;
+    Common::Phase VapourPhase;           ///< what is vapour at the stage
+    Common::Phase LiquidPhase;           ///< what is liquid at the stage
+    StageResultsHandle Results;          ///< its numbers
+    Model::CompositionalFluid Fluid{""}; ///< the fluid as a whole
+    std::int32_t FluidState = 0;         ///< `oilLikeFluidState`, or anything else for a gas
 };
 
 } // namespace Orv::FluidBench::Experiments

@@ -20,6 +20,7 @@ struct StageResults {
 /// the handle, so no stage needs memory for it, and moving one can't fail.
 class StageResultsHandle {
 public:
+    /// The record; valid until the handle goes.
     StageResults* operator->() noexcept { return &results_; }
     const StageResults* operator->() const noexcept { return &results_; }
     StageResults& operator*() noexcept { return results_; }

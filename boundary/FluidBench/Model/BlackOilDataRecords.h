@@ -51,6 +51,7 @@ public:
 
     // The stand-in's own operations.
 
+    /// One row of a record.
     struct Entry {
         double pressure = 0.0;              ///< Pa
         double property = 0.0;              ///< gas-oil or oil-gas ratio, m3/m3

@@ -49,12 +49,14 @@ public:
 
     // The stand-in's own operations.
 
+    /// As `SetLiveOilData`.
     void SetDeadOilData(const BlackOilDataRecords& records);
     void SetDeadOilData(BlackOilDataRecords&& records) noexcept;
     void SetDryGasData(const BlackOilDataRecords& records);
     void SetDryGasData(BlackOilDataRecords&& records) noexcept;
     /// Gas-oil ratio in m3/m3 and pressure in Pa.
     void SetSaturationPoint(double rs, double pressure) noexcept;
+    /// Surface density in kg/m3.
     double GetWaterDensity() const noexcept;
 
 private:

@@ -35,15 +35,18 @@ public:
     CompositionalFluid& operator=(CompositionalFluid&&) noexcept;
     ~CompositionalFluid();
 
+    /// Peng-Robinson at first.
     void SetEoS(Common::pvtEnumEoS eos);
     Common::pvtEnumEoS GetEoS() const;
 
+    /// Lohrenz-Bray-Clark at first.
     void SetViscosityCorrelation(Common::pvtEnumViscosityMethod method);
     Common::pvtEnumViscosityMethod GetViscosityCorrelation() const;
 
+    /// Parachors at first.
     void SetInterfacialTensionMethod(Common::pvtEnumInterfacialTensionMethod method);
 
-    /// Basis of the fractions given to `SetComponent` afterwards.
+    /// Basis of the fractions given to `SetComponent` afterwards; moles at first.
     void SetComponentFractionType(Common::pvtEnumUnitFraction type);
 
     /// Adds a copy of the component, or replaces the one of the same name in its place. Fractions
@@ -63,27 +66,34 @@ public:
     Common::pvtEnumPropertySource GetBICSource(const std::string& first, const std::string& second,
                                                Common::pvtEnumBICType type) const;
 
+    /// Copies of the components, their names, and how many they are, all in the fluid's order.
     const std::vector<FluidComponent> GetOrderedComponents() const;
     std::vector<std::string> ListComponents() const;
     int NumberOfComponents() const;
 
-    /// Throws `std::invalid_argument` for a name that the fluid lacks.
+    /// As given to `SetComponent`. Throws `std::invalid_argument` for a name that the fluid lacks.
     double GetComponentFraction(const std::string& name) const;
 
     /// A global name identifies a component across the fluids of one set of results. It is the
     /// component's name until it is set.
     std::vector<std::string> ListComponentsGlobalNames() const;
+    /// Whether one of the fluid's components bears it.
     bool HasComponentWithGlobalName(const std::string& globalName) const;
-    /// Throws `std::invalid_argument` for a name that the fluid lacks.
+    /// As `GetComponentFraction`, and it throws as that does.
     double GetComponentFractionByGlobalName(const std::string& globalName) const;
 
+    /// Whether volume shifts follow the temperature, as `GetEoSTDependantVolumeShift` tells; at
+    /// first they don't.
     bool GetUseTemperatureDependentVolumeShift() const;
 
     // The stand-in's own operations.
 
+    /// Valid until the fluid is assigned to, moved from or goes.
     const std::string& GetName() const;
+    /// What was set.
     Common::pvtEnumInterfacialTensionMethod GetInterfacialTensionMethod() const;
     Common::pvtEnumUnitFraction GetComponentFractionType() const;
+    /// For `GetUseTemperatureDependentVolumeShift`.
     void SetUseTemperatureDependentVolumeShift(bool use);
     /// Throws `std::invalid_argument` when the fluid lacks the component or another one already
     /// bears the global name.

@@ -53,17 +53,17 @@ public:
     double GetVcritViscosity() const;
     Common::pvtEnumPropertySource GetVcritViscositySource() const;
 
-    /// Critical compressibility factor.
+    /// Critical compressibility factor, dimensionless.
     void SetZcrit(double value);
     double GetZcrit() const;
     Common::pvtEnumPropertySource GetZcritSource() const;
 
-    /// Acentric factor. May be negative: hydrogen's and helium's are.
+    /// Acentric factor, dimensionless. May be negative: hydrogen's and helium's are.
     void SetAcf(double value);
     double GetAcf() const;
     Common::pvtEnumPropertySource GetAcfSource() const;
 
-    /// Parachor.
+    /// Parachor, in the usual unit of (dyn/cm)^(1/4) cm3/mol.
     void SetParachor(double value);
     double GetParachor() const;
     Common::pvtEnumPropertySource GetParachorSource() const;
@@ -95,7 +95,8 @@ public:
     double GetHeatVapourisation() const;
     Common::pvtEnumPropertySource GetHeatVapourisationSource() const;
 
-    /// Thermal expansion coefficient. May be negative: some liquids shrink when heated.
+    /// Thermal expansion coefficient, in the unit of the file it came from. May be negative: some
+    /// liquids shrink when heated.
     void SetThermExpCoeff(double value);
     double GetThermExpCoeff() const;
     Common::pvtEnumPropertySource GetThermExpCoeffSource() const;
@@ -112,6 +113,7 @@ public:
 
     // The stand-in's own operation.
 
+    /// Valid until the component is assigned to, moved from or goes.
     const std::string& GetName() const;
 
 private:

@@ -14,17 +14,17 @@ namespace Orv::FluidBench::Model {
 /// one where they differ. One thread at a time may change a table.
 class FLUIDBENCH_BOUNDARY_API ThermalExportTable {
 public:
-    double StandardTemperature = 0.0; ///< K
-    double StandardPressure = 0.0;    ///< Pa
-    std::uint64_t ComponentCount = 0;
-    std::vector<std::string> ComponentNames;
+    double StandardTemperature = 0.0;          ///< K
+    double StandardPressure = 0.0;             ///< Pa
+    std::uint64_t ComponentCount = 0;          ///< n
+    std::vector<std::string> ComponentNames;   ///< as they go into the file
     std::vector<double> MolecularWeights;      ///< g/mol
     std::vector<double> CriticalTemperatures;  ///< K
     std::vector<double> CriticalPressures;     ///< Pa
     std::vector<double> ReferenceTemperatures; ///< K
     std::vector<double> ReferencePressures;    ///< Pa
     std::vector<double> ReferenceDensities;    ///< kg/m3
-    std::vector<double> AcentricFactors;
+    std::vector<double> AcentricFactors;       ///< dimensionless
     /// Molar heat capacity in J/(mol K) as A + B T + C T^2 + D T^3, with T in K.
     std::vector<double> SpecificHeatA;
     std::vector<double> SpecificHeatB;
@@ -51,7 +51,7 @@ public:
     std::vector<double> GetCrookstonD() const; ///< K
     std::vector<double> GetCrookstonE() const; ///< K
 
-    // The stand-in's own operations. Each takes the units of its getter.
+    // The stand-in's own operations.
 
     /// A table of no components: everything is zero or empty.
     ThermalExportTable();
@@ -61,6 +61,7 @@ public:
     ThermalExportTable& operator=(ThermalExportTable&&) noexcept;
     ~ThermalExportTable();
 
+    /// Each takes the units of its getter.
     void SetHeatVaps(std::vector<double> values);
     void SetCRefs(std::vector<double> values);
     void SetThermEx1s(std::vector<double> values);

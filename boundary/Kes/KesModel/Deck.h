@@ -26,6 +26,7 @@ public:
 
     // The stand-in's own operation.
 
+    /// As given when the deck was made; valid as long as the deck.
     const std::string& getFileName() const;
 
 private:

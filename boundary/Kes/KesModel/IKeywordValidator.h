@@ -8,8 +8,10 @@
 
 namespace Orv::Kes::KesModel {
 
+/// Admits keywords or doesn't. The interpreter passes over those that aren't admitted.
 class FLUIDBENCH_BOUNDARY_API IKeywordValidator {
 public:
+    /// Whether the keyword of that name, or under that iterator, counts.
     virtual bool isValidKeyword(const std::string& name) const = 0;
     virtual bool isValidKeyword(const Core::DeckManager::KeywordIterator& keyword) const = 0;
     virtual ~IKeywordValidator() = default;

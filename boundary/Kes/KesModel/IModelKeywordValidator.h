@@ -9,6 +9,7 @@ namespace Orv::Kes::KesModel {
 /// Each operation may give null. What is given belongs to this object.
 class FLUIDBENCH_BOUNDARY_API IModelKeywordValidator {
 public:
+    /// The one for fluids, and three for parts that the I/O library doesn't read.
     virtual const IKeywordValidator* getKeywordValidator1() const = 0;
     virtual const IKeywordValidator* getKeywordValidator2() const = 0;
     virtual const IFluidsKeywordValidator* getFluidsKeywordValidator() const = 0;

@@ -15,6 +15,7 @@ class Deck;
 /// Keeps account of the keywords that the interpreter passed over.
 class FLUIDBENCH_BOUNDARY_API KeywordTracker {
 public:
+    /// No keyword has been passed over yet.
     KeywordTracker(const Deck& deck, Core::Keywords::SimulatorType::Enum simulator);
     ~KeywordTracker();
     KeywordTracker(const KeywordTracker&) = delete;

@@ -11,6 +11,7 @@ namespace Orv::Kes::KesModel {
 
 class BaseLogger;
 
+/// The way to the logger in force, and how much a message matters.
 struct FLUIDBENCH_BOUNDARY_API Log {
     /// How much a message matters, the most first.
     enum Severity : std::int32_t { Fatal = 0, Error = 1, Warning = 2, Information = 3, Debug = 4 };
@@ -52,6 +53,7 @@ public:
 
     // The stand-in's own operation.
 
+    /// What was set last.
     Log::Severity getMaxSeverity() const;
 
 private:

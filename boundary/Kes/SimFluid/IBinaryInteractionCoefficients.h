@@ -5,12 +5,13 @@
 
 namespace Orv::Kes::SimFluid {
 
-/// Coefficients by the indices of two components, in either order.
+/// Dimensionless coefficients by the indices of two components, in either order.
 class FLUIDBENCH_BOUNDARY_API IBinaryInteractionCoefficients {
 public:
     virtual ~IBinaryInteractionCoefficients() = default;
     /// 0.0 where none is set.
     virtual double get(int i, int j) const = 0;
+    /// A value of 0.0 unsets the coefficient.
     virtual void set(int i, int j, double value) = 0;
 
 protected:

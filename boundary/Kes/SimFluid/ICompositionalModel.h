@@ -29,7 +29,9 @@ public:
     virtual void setViscosityModel(int code) = 0;
     virtual int getViscosityModel() const = 0;
 
+    /// Appends a component without properties.
     virtual IComponent& makeComponent(const std::string& name) = 0;
+    /// The indices are below it.
     virtual int getNumComponents() const = 0;
     /// By name these throw `std::invalid_argument`, by index `std::runtime_error`, when there is no
     /// such component.
@@ -37,19 +39,27 @@ public:
     virtual const IComponent& getComponent(const std::string& name) const = 0;
     virtual IComponent& getComponent(int index) = 0;
     virtual const IComponent& getComponent(int index) const = 0;
+    /// Components that dissolve in water, by name, by index or by the component itself. They throw
+    /// what derives from `std::exception` when there is no such component, or when an
+    /// implementation has none of these.
     virtual IComponent& getAqueousSolubleComponent(const std::string& name) = 0;
     virtual const IComponent& getAqueousSolubleComponent(const std::string& name) const = 0;
     virtual IComponent& getAqueousSolubleComponent(int index) = 0;
     virtual const IComponent& getAqueousSolubleComponent(int index) const = 0;
+    /// Whether there is such a component.
     virtual bool hasComponent(const std::string& name) const = 0;
     virtual bool hasAqueousSolubleComponent(const std::string& name) const = 0;
     /// -1 when there is no such component.
     virtual int getComponentIndex(const std::string& name) const = 0;
+    /// Those behind it move up by one. Throws `std::runtime_error` when there is no such component.
     virtual void deleteComponent(int index) = 0;
+    /// 0 where an implementation has none of these.
     virtual int getNumAqueousSolubleComponents() const = 0;
+    /// As by name and by index above.
     virtual IComponent& getAqueousSolubleComponent(const IComponent& component) = 0;
     virtual const IComponent& getAqueousSolubleComponent(const IComponent& component) const = 0;
 
+    /// Of the components as such; no coefficient is set at first.
     virtual IBinaryInteractionCoefficients& getBinaryInteractionCoefficients() = 0;
     virtual const IBinaryInteractionCoefficients& getBinaryInteractionCoefficients() const = 0;
     /// Sets 1, 2 and 3; throws `std::range_error` for another number.
@@ -57,14 +67,15 @@ public:
     virtual const IBinaryInteractionCoefficients&
     getAqueousBinaryInteractionCoefficients(int number) const = 0;
 
-    // Tables by component pair.
+    /// Tables by component pair. An implementation that has none throws what derives from
+    /// `std::exception` where one is asked for.
     virtual bool hasDiffusionTable(int i, int j) const = 0;
     virtual IPropertyTable& makeDiffusionTable(int i, int j) = 0;
     virtual bool hasDiffusionTables() const = 0;
     virtual IPropertyTable& getDiffusionTable(int i, int j) = 0;
     virtual const IPropertyTable& getDiffusionTable(int i, int j) const = 0;
 
-    // Tables by name.
+    /// Tables by name, on the same terms; without a name, the one table there is.
     virtual IPropertyTable& makeKValueTable() = 0;
     virtual IPropertyTable& getKValueTable(const std::string& name) = 0;
     virtual IPropertyTable& getKValueTable() = 0;
@@ -74,13 +85,16 @@ public:
     virtual IPropertyTable& getSolidTable() = 0;
     virtual std::set<std::string> getSolidTableNames() const = 0;
 
-    // Counts of surface stages.
+    /// Counts of surface stages, of one separator or of all, and of what leaves them.
     virtual int getNumSurfaceStages(const std::string& name) const = 0;
     virtual int getNumSurfaceStages() const = 0;
     virtual int getNumSurfaceStreams() const = 0;
 
-    // Conditions.
+    /// Does nothing where there is no such table.
     virtual void deleteDiffusionTable(int i, int j) = 0;
+
+    /// Conditions, in the units of the deck. An implementation may drop what it is given and give
+    /// 0.0.
     virtual void setReservoirTemperature(double value) = 0;
     virtual double getReservoirTemperature() const = 0;
     virtual void setSurfaceTemperature(double value) = 0;
@@ -88,7 +102,7 @@ public:
     virtual void setSurfacePressure(double value) = 0;
     virtual double getSurfacePressure() const = 0;
 
-    // The solid phase.
+    /// The solid phase, on the same terms.
     virtual void setSolidDensity(double value) = 0;
     virtual void setSolidCompressibility(double value) = 0;
     virtual void setSolidThermalExpansion(double value) = 0;
@@ -102,7 +116,7 @@ public:
     virtual double getSolidReferenceTemperature() const = 0;
     virtual double getSolidHeatCapacity() const = 0;
 
-    // Limits of the phase behaviour calculation.
+    /// Limits of the phase behaviour calculation, on the same terms.
     virtual void setUsesSurfaceEquationOfState(bool value) = 0;
     virtual bool usesSurfaceEquationOfState() const = 0;
     virtual void setLowestTemperature(double value) = 0;
@@ -110,7 +124,8 @@ public:
     virtual double getLowestTemperature() const = 0;
     virtual double getHighestTemperature() const = 0;
 
-    // Chemical reactions.
+    /// Chemical reactions. An implementation that has none throws what derives from
+    /// `std::exception` where they are asked for.
     virtual int getNumReactions() const = 0;
     virtual IReactionModel& makeReactionModel() = 0;
     virtual bool hasReactionModel() const = 0;

@@ -11,15 +11,19 @@ namespace Orv::Kes::SimFluid {
 class FLUIDBENCH_BOUNDARY_API IDepthTable {
 public:
     virtual ~IDepthTable() = default;
+    /// In the units of the deck.
     virtual double getValue(int row, int column) const = 0;
     virtual double getDepth(int row) const = 0;
+    /// How many there are.
     virtual int getNumRows() const = 0;
     virtual int getNumColumns() const = 0;
 
-    /// Empties the table and sets the number of values in a row.
+    /// Empties the table and sets the number of values in a row. Throws `std::out_of_range` for a
+    /// negative number.
     virtual void clear(int columns) = 0;
     /// Appends a row of zeros at that depth.
     virtual void addRow(double depth) = 0;
+    /// Replaces one value of a row.
     virtual void setValue(int row, int column, double value) = 0;
 
 protected:

@@ -19,8 +19,10 @@ public:
     };
 
     virtual ~IInitialCondition() = default;
+    /// As given when the condition was made.
     virtual std::string getName() const = 0;
 
+    /// Depths and pressures are what was set last.
     virtual double getDatumDepth() const = 0;
     virtual void setDatumDepth(double depth) = 0;
     virtual double getDatumPressure() const = 0;
@@ -34,11 +36,13 @@ public:
     virtual double getWaterContactCapillaryPressure() const = 0;
     virtual void setWaterContactCapillaryPressure(double pressure) = 0;
 
+    /// Whether there is a table of it.
     virtual bool hasDepthTable(Property property) const = 0;
     /// Makes an empty table when there is none.
     virtual IDepthTable& getDepthTable(Property property) = 0;
     /// Throws `std::out_of_range` when there is none.
     virtual const IDepthTable& getDepthTable(Property property) const = 0;
+    /// Does nothing where there is none.
     virtual void deleteDepthTable(Property property) = 0;
 
 protected:

@@ -10,10 +10,12 @@ namespace Orv::Kes::SimFluid {
 class FLUIDBENCH_BOUNDARY_API ITemperatureTable {
 public:
     virtual ~ITemperatureTable() = default;
+    /// Numbers that still have a place are kept.
     virtual int getNumTemperatures() const = 0;
     virtual void setNumTemperatures(int count) = 0;
     virtual int getNumComponents() const = 0;
     virtual void setNumComponents(int count) = 0;
+    /// Temperatures and properties are in the units of the deck.
     virtual double getTemperature(int row) const = 0;
     virtual void setTemperature(int row, double value) = 0;
     virtual double getProperty(int row, int component) const = 0;

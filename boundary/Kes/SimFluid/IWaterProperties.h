@@ -11,6 +11,7 @@ namespace Orv::Kes::SimFluid {
 class FLUIDBENCH_BOUNDARY_API IBrineComponent {
 public:
     virtual ~IBrineComponent() = default;
+    /// As given when the component was made.
     virtual std::string getName() const = 0;
 
 protected:
@@ -34,6 +35,7 @@ protected:
 class FLUIDBENCH_BOUNDARY_API IWaterProperties {
 public:
     virtual ~IWaterProperties() = default;
+    /// At surface conditions, and the properties at a reference pressure.
     virtual double getSurfaceDensity() const = 0;
     virtual void setSurfaceDensity(double value) = 0;
     virtual void setPressure(double value) = 0;
@@ -47,6 +49,7 @@ public:
     virtual void setViscosibility(double value) = 0;
     virtual double getViscosibility() const = 0;
 
+    /// Coefficients of the K-value of water.
     virtual void setKValueCoefficientA(double value) = 0;
     virtual double getKValueCoefficientA() const = 0;
     virtual void setKValueCoefficientB(double value) = 0;
@@ -58,6 +61,7 @@ public:
     virtual void setKValueCoefficientE(double value) = 0;
     virtual double getKValueCoefficientE() const = 0;
 
+    /// The temperature that the thermal expansion counts from, and its coefficients.
     virtual void setReferenceTemperature(double value) = 0;
     virtual double getReferenceTemperature() const = 0;
     virtual void setThermalExpansionCoefficient1(double value) = 0;
@@ -65,6 +69,7 @@ public:
     virtual void setThermalExpansionCoefficient2(double value) = 0;
     virtual double getThermalExpansionCoefficient2() const = 0;
 
+    /// Appends a component, and how many there are.
     virtual IBrineComponent& makeBrineComponent(const std::string& name) = 0;
     virtual int getNumBrineComponents() const = 0;
     /// By name these throw `std::invalid_argument`, by index `std::out_of_range`, when there is no
@@ -73,12 +78,15 @@ public:
     virtual const IBrineComponent& getBrineComponent(const std::string& name) const = 0;
     virtual IBrineComponent& getBrineComponent(int index) = 0;
     virtual const IBrineComponent& getBrineComponent(int index) const = 0;
+    /// Whether there is such a component.
     virtual bool hasBrineComponent(const std::string& name) const = 0;
 
+    /// Replaces the table where there is one.
     virtual IBrinePropertyTable& makeBrinePropertyTable() = 0;
     /// Null when there is none.
     virtual IBrinePropertyTable* getBrinePropertyTable() = 0;
     virtual const IBrinePropertyTable* getBrinePropertyTable() const = 0;
+    /// Does nothing where there is none.
     virtual void deleteBrinePropertyTable() = 0;
 
 protected:

@@ -13,6 +13,7 @@ namespace Orv::Kes::SimFluid {
 /// Owns its depth tables. A reference to one is good until it is deleted.
 class FLUIDBENCH_BOUNDARY_API StdInitialCondition : public IInitialCondition {
 public:
+    /// Everything is 0.0, and there is no table.
     explicit StdInitialCondition(const std::string& name);
     ~StdInitialCondition() override;
 

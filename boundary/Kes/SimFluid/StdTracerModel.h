@@ -14,6 +14,7 @@ namespace Orv::Kes::SimFluid {
 /// Owns its depth tables. A reference to one is good until that table is deleted.
 class FLUIDBENCH_BOUNDARY_API StdTracerModel : public ITracerModel {
 public:
+    /// A tracer without tables.
     explicit StdTracerModel(const std::string& name);
     ~StdTracerModel() override;
 

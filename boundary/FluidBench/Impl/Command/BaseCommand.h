@@ -20,6 +20,7 @@ public:
     virtual std::int32_t GetId() const;
     virtual void SetId(std::int32_t id);
 
+    /// What a log calls the command.
     virtual std::string GetCommandName() const;
 
     /// The stand-in keeps no log of commands and no XML of them: both give null.

@@ -7,6 +7,7 @@
 
 namespace Orv::Kes::Core::DeckManager {
 
+/// A keyword by its name. The I/O library asks for nothing else of it.
 class FLUIDBENCH_BOUNDARY_API IKeyword {
 public:
     /// Valid as long as the keyword.

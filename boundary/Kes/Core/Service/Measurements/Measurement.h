@@ -12,6 +12,7 @@ class FLUIDBENCH_BOUNDARY_API Measurement {
 public:
     // The stand-in's own operations.
 
+    /// By the name that `UnitManager` knows it by.
     explicit Measurement(std::string name);
     const std::string& GetName() const noexcept { return name_; }
 

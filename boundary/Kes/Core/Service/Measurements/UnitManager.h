@@ -20,6 +20,7 @@ namespace Orv::Kes::Core::Service::Measurements {
 ///     MolarVolume       m3/kg-mole      ft3/lb-mole    cc/g-mole    m3/kg-mole     m3/kg-mole
 class FLUIDBENCH_BOUNDARY_API UnitManager {
 public:
+    /// The one directory; made when it is asked for first.
     static const UnitManager& GetUnitManager();
 
     /// Each throws `std::invalid_argument` for a name, or a pair, that isn't in the table.

@@ -13,8 +13,10 @@ class FLUIDBENCH_BOUNDARY_API Unit {
 public:
     // The stand-in's own operations.
 
+    /// "bar", for instance, is 100,000 canonical units of a pressure.
     Unit(std::string name, double canonicalUnits);
 
+    /// As given when the unit was made.
     const std::string& GetName() const noexcept { return name_; }
     double InCanonicalUnits() const noexcept { return canonicalUnits_; }
 

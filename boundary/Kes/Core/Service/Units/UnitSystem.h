@@ -17,6 +17,7 @@ public:
 
     // The stand-in's own operations.
 
+    /// By the name that `UnitManager` knows it by.
     explicit UnitSystem(std::string name);
     const std::string& GetName() const noexcept { return name_; }
 
