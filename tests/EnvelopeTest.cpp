@@ -1,15 +1,18 @@
 // Phase envelope files: what any text reads as, what plots are written as, and the way there and
 // back.
+#include "Diagnosed.h"
 #include "IOException.h"
 #include "PhaseEnvelopeFile.h"
 #include "TestSupport.h"
 #include "io/PhaseEnvelopeReaderWriter.h"
 
+#include <iomanip>
 #include <sstream>
 #include <stdexcept>
 #include <utility>
 
 using namespace Orv::FluidBench::Common;
+using FluidBenchTest::Diagnosed;
 using FluidBenchTest::TemporaryFolder;
 using Orv::FluidBench::IO::PhaseEnvelopeReaderWriter;
 using AxisType = CommonPlottingObject::AxisType;
@@ -52,17 +55,22 @@ struct Outcome {
     bool result = false;
     std::string message;
     std::string plots;
+
+    bool operator==(const Outcome&) const = default;
+    friend std::ostream& operator<<(std::ostream& out, const Outcome& outcome) {
+        return out << outcome.result << " '" << outcome.message << "' " << outcome.plots;
+    }
 };
 
 class EnvelopeTest : public testing::Test {
 protected:
-    Outcome Read(const std::string& fileName) {
+    template <typename Operation>
+    Outcome OutcomeOf(Operation operation) {
         Outcome outcome;
         Plots plots(1, CommonPlottingObject(AxisType::Density, AxisType::Density));
         std::vector<std::string> messages(2, "from before");
-        file.SetFileName(fileName);
         try {
-            outcome.result = file.Read(plots, messages);
+            outcome.result = operation(plots, messages);
             EXPECT_EQ(messages.size(), 1U);
             outcome.message = messages.back();
         } catch (const std::out_of_range& error) {
@@ -75,6 +83,14 @@ protected:
         }
         outcome.plots = Text(plots);
         return outcome;
+    }
+    Outcome Read(const std::string& fileName) {
+        file.SetFileName(fileName);
+        return OutcomeOf([&](Plots& plots, auto& messages) { return file.Read(plots, messages); });
+    }
+    Outcome Read(std::istream& in) {
+        return OutcomeOf(
+            [&](Plots& plots, auto& messages) { return file.Read(in, plots, messages, "name"); });
     }
 
     std::string Written(const Plots& plots, bool useComma) {
@@ -98,11 +114,14 @@ Line LineOf(int phase, std::vector<Point> points, double fraction = 0.0, Line::T
     return {"name", x, y, of, static_cast<Line::Phase>(phase), fraction};
 }
 
-std::string Block(const std::string& headings) {
-    return "Flash: \nSource: \nUnits: \n\n" + headings + "\nT,P,\n";
+std::string Block(const std::string& cells) {
+    return "Flash: \nSource: \nUnits: \n\n" + cells + "\nT,P,\n";
 }
-const std::string block = Block("Bubble,,Dew,,Critical point,,");
+const std::string headings = "Bubble,,Dew,,Critical point,,";
+const std::string block = Block(headings);
+const std::string row = "1,2,3,4,5,6,";
 const std::string noLines = "bubble; dew; critical";
+const std::string oneRow = "bubble 1,2; dew 3,4; critical 5,6";
 const std::string end = "No more envelopes found";
 
 struct Case {
@@ -111,6 +130,7 @@ struct Case {
     bool result;
     std::string message;
     std::string plots;
+    std::string told; // lines and codes
 };
 
 std::string Times(const std::string& text, int times) {
@@ -124,72 +144,103 @@ std::string Times(const std::string& text, int times) {
 std::vector<Case> Cases() {
     const std::string misplaced = "Flash used not where expected";
     const std::string noHeadings = "Column headings not found";
-    const std::string row = "1,2,3,4,5,6,";
-    const std::string oneRow = "bubble 1,2; dew 3,4; critical 5,6";
     const std::string thrown = "thrown: invalid string position";
     const std::string longest = row + std::string(499 - row.size(), 'x');
     return {
-        {"no line end behind the last row", block + row, true, "", oneRow},
-        {"a line end behind it", block + row + "\n", true, end, oneRow},
-        {"no rows", block, true, "", noLines},
+        {"no line end behind the last row", block + row, true, "", oneRow, ""},
+        {"a line end behind it", block + row + "\n", true, end, oneRow, ""},
+        {"no rows", block, true, "", noLines, "5:no-rows"},
         {"two blocks, anything between", block + row + "\n-,-,Dew\n\n" + block + row, true, "",
-         oneRow + " | " + oneRow},
+         oneRow + " | " + oneRow, ""},
         {"no line between blocks, and the first has no rows", block + block + row + "\n", true, end,
-         noLines + " | " + oneRow},
+         noLines + " | " + oneRow, "5:no-rows"},
         {"a later block is freer", block + row + "\n\nmy Flash 7\nx 9\nDew Bubble\n\nT P\n" + row,
-         true, "", oneRow + " | " + oneRow},
+         true, "", oneRow + " | " + oneRow, "11:heading-order"},
         {"rows whatever word they hold", block + row + "Flash Bubble\n" + row + "\n", true, end,
-         "bubble 1,2 1,2; dew 3,4 3,4; critical 5,6 5,6"},
-        {"words in small letters", "flash\n\n\n\nbubble\nT,P,\n", false, end, ""},
+         "bubble 1,2 1,2; dew 3,4 3,4; critical 5,6 5,6", "7:extra-cells"},
+        {"rows behind a line without digits", block + row + "\nand so on\n" + row, true, end,
+         oneRow, "9:row-outside-block"},
+        {"words in small letters", "flash\n\n\n\nbubble\nT,P,\n", false, end, "", "0:no-envelope"},
 
-        {"empty", "", false, "", ""},
-        {"five lines", "Flash\n\n\n\nBubble", false, "", ""},
-        {"short letter line", "Flash\n\n\n\nBubble\nT,P\n", false, "", ""},
-        {"short letter line with a carriage return", "Flash\n\n\n\nBubble\nT,P\r\n", false, "", ""},
-        {"no separator in the letter line", "Flash\n\n\n\nBubble\nTP,T,P,\n", false, "", ""},
-        {"an early letter line", "Flash\n\n\nBubble\nT,P,\n\n", false, "", ""},
-        {"a letter line of rows", "Flash\nBubble\n\n\n\n1,2,3,4,5,6,\n", true, end, oneRow},
+        {"empty", "", false, "", "", "1:no-separator"},
+        {"five lines", "Flash\n\n\n\nBubble", false, "", "", "5:no-separator"},
+        {"short letter line", "Flash\n\n\n\nBubble\nT,P\n", false, "", "", "6:no-separator"},
+        {"short letter line with a carriage return", "Flash\n\n\n\nBubble\nT,P\r\n", false, "", "",
+         "6:no-separator"},
+        {"no separator in the letter line", "Flash\n\n\n\nBubble\nTP,T,P,\n", false, "", "",
+         "6:no-separator"},
+        {"an early letter line", "Flash\n\n\nBubble\nT,P,\n\n", false, "", "", "6:no-separator"},
+        {"a letter line of rows", "Flash\nBubble\n\n\n\n1,2,3,4,5,6,\n", true, end, oneRow,
+         "2:heading-order"},
+        {"carriage returns alone", "Flash: \r\r\r\rBubble\rT,P,\r1,2,3,4,5,6,\r", false, "", "",
+         "1:carriage-returns 1:no-separator"},
+        {"two bytes a character", std::string("F\0l\0a\0s\0h\0\n\0", 12), false, "", "",
+         "1:utf-16 2:no-separator"},
+        {"a byte order mark", "\xEF\xBB\xBF" + block + row, true, "", oneRow, ""},
 
-        {"headings ahead of any flash", "Bubble\n" + block, false, "", ""},
-        {"both words", "\nFlash Bubble\n\n\n\nT,P,\n" + block, false, misplaced, ""},
-        {"headings without their flash", block + row + "\n\nBubble\n", true, misplaced, oneRow},
+        {"headings ahead of any flash", "Bubble\n" + block, false, "", "", "6:no-separator"},
+        {"both words", "\nFlash Bubble\n\n\n\nT,P,\n" + block, false, misplaced, "", "2:no-flash"},
+        {"headings without their flash", block + row + "\n\nBubble\n", true, misplaced, oneRow,
+         "9:no-flash"},
         {"no headings ahead of a flash", block + row + "\nFlash\nFlash\n", false, noHeadings,
-         oneRow},
-        {"no headings ahead of the end", "Flash\n\n\n\n\nT,P,\n", false, noHeadings, ""},
+         oneRow, "9:no-headings"},
+        {"no headings ahead of the end", "Flash\n\n\n\n\nT,P,\n", false, noHeadings, "",
+         "7:no-headings"},
 
         {"words in any order", Block("Ice Aqueous xBubblex") + "1,,2,,3,,4,5,6,7,", true, "",
-         "bubble; dew; critical; aqueous 4,5; ice 6,7"},
-        {"hydrate II alone", Block("Bubble Hydrate type II"), true, "", noLines + "; II"},
+         "bubble; dew; critical; aqueous 4,5; ice 6,7",
+         "5:heading-order 7:uneven-columns 7:uneven-columns 7:uneven-columns"},
+        {"hydrate II alone", Block("Bubble Hydrate type II"), true, "", noLines + "; II",
+         "5:heading-order 5:no-rows"},
         {"both hydrates", Block("Hydrate type II,Bubble,Hydrate type I,"), true, "",
-         noLines + "; I; II"},
+         noLines + "; I; II", "5:heading-order 5:no-rows"},
         {"quality lines", Block("Bubble,,Vapour,0.5,Vapour,-9e-1x,.,"), true, "",
-         noLines + "; q0.5; q0.9; q"},
-        {"digits of other headings", Block("Bubble,PX2,1,"), true, "", noLines + "; q2; q1"},
+         noLines + "; q0.5; q0.9; q", "5:text-beside-number 5:digits-in-heading 5:no-rows"},
+        {"digits of other headings", Block("Bubble,PX2,1,"), true, "", noLines + "; q2; q1",
+         "5:digits-in-heading 5:digits-in-heading 5:no-rows"},
+        {"odd fractions, a pair without one, and units",
+         "Flash\n\nUnits: T(C), P(bar)\n\n" + headings + "Vapour,1.5,Vapour,-0.5,Vapour,,\nT,P,\n" +
+             row + "7,8,9,0, , ,",
+         true, "", oneRow + "; q1.5 7,8; q0.5 9,0",
+         "3:other-units 5:fraction-range 5:fraction-range 5:not-a-number 5:heading-order"},
         {"a number at the end of the headings", block + row + "\n" + Block("Bubble,0.5"), false,
-         thrown, ""},
+         thrown, "", "12:open-heading"},
 
         {"blanks and text around numbers", block + "T=1 K,p -2.5e+03Pa, ,\t,3.,.4e1,x,7,8", true,
-         "", "bubble 1,-2500; dew; critical 3,4"},
+         "", "bubble 1,-2500; dew; critical 3,4",
+         "7:text-beside-number 7:text-beside-number 7:extra-cells"},
         {"cells without digits", block + "-,.,0,-x,-1,1\n-.,1e,--2,1.2.3,5,6,", true,
-         "Error in column 5", "bubble 0,0 0,1; dew 0,0 0,1.2; critical -1,6"},
-        {"no number of another kind", block + "0x1,1,inf1,nan,1d5,1,5e", true, "",
-         "bubble 0,1; dew; critical 1,1"},
+         "Error in column 5", "bubble 0,0 0,1; dew 0,0 0,1.2; critical -1,6",
+         "7:not-a-number 7:not-a-number 7:not-a-number 7:short-row 8:not-a-number "
+         "8:text-beside-number 8:not-a-number 8:text-beside-number 7:uneven-columns"},
+        {"no number of another kind", block + "0x1,+1,inf1,nan,1d5,1,5e", true, "",
+         "bubble 0,1; dew; critical 1,1",
+         "7:not-finite 7:text-beside-number 7:not-a-number 7:text-beside-number 7:extra-cells "
+         "7:uneven-columns"},
+        {"a number too large", block + "1,2,3,4,5,1e999,", true, "",
+         "bubble 1,2; dew 3,4; critical 5,inf", "7:not-finite"},
         {"shorter columns", block + "1,2,3,4,,\n5,6, , ,7,8,\n", true, end,
-         "bubble 1,2 5,6; dew 3,4; critical 7,8"},
+         "bubble 1,2 5,6; dew 3,4; critical 7,8", "7:short-row"},
+        {"halves of two points", block + "1,2,3,,5,6,\n1,2,,4,5,6,\n", true, end,
+         "bubble 1,2 1,2; dew 3,4; critical 5,6 5,6", "7:uneven-columns"},
         {"short rows", block + "1,2,3\n4,5,6,7,8,9,\n1", true, "Error in column 0",
-         "bubble 1,2 4,5; dew 6,7; critical 8,9"},
+         "bubble 1,2 4,5; dew 6,7; critical 8,9", "7:short-row 9:short-row"},
 
         {"a line of 499 characters", block + longest + "\n" + row, true, "",
-         "bubble 1,2 1,2; dew 3,4 3,4; critical 5,6 5,6"},
+         "bubble 1,2 1,2; dew 3,4 3,4; critical 5,6 5,6", "7:extra-cells"},
         {"499 and a carriage return", block + longest + "\r\n" + row, true, "",
-         "bubble 1,2 1,2; dew 3,4 3,4; critical 5,6 5,6"},
-        {"a line of 500", block + longest + "x\n" + row, true, "", oneRow},
+         "bubble 1,2 1,2; dew 3,4 3,4; critical 5,6 5,6", "7:extra-cells"},
+        {"a line of 500", block + longest + "x\n" + row, true, "", oneRow,
+         "7:line-too-long 7:extra-cells"},
         {"a cell cut in two", block + "1,2,3,4,5," + std::string(488, '0') + "6,\n" + row, true,
-         "Error in column 5", "bubble 1,2; dew 3,4; critical"},
+         "Error in column 5", "bubble 1,2; dew 3,4; critical",
+         "7:line-too-long 7:short-row 7:uneven-columns"},
         {"a million separators", block + std::string(1'000'000, ',') + "\n" + row, true, "",
-         noLines},
+         noLines, "7:line-too-long 5:no-rows"},
         {"a thousand quality lines", block + row + "\n" + Block("Bubble," + Times("1,", 1000)),
-         true, "", oneRow + " | " + noLines + Times("; q1", (499 - 7) / 2)},
+         true, "", oneRow + " | " + noLines + Times("; q1", (499 - 7) / 2),
+         "12:line-too-long" + Times(" 12:digits-in-heading", 20) +
+             " 12:no-rows 0:digits-in-heading"},
     };
 }
 
@@ -197,15 +248,36 @@ std::vector<Case> Cases() {
 
 TEST_F(EnvelopeTest, ReadsWhatThereIsAndTellsTheRest) {
     const FluidBenchTest::ForeignGlobalLocale foreign;
+    Diagnosed diagnosed;
     for (const Case& each : Cases()) {
-        for (const bool useComma : {false, true}) {
-            file = PhaseEnvelopeReaderWriter(useComma);
-            const Outcome outcome = Read(folder.Write("file", each.text));
-            EXPECT_EQ(outcome.result, each.result) << each.meaning;
-            EXPECT_EQ(outcome.message, each.message) << each.meaning;
-            EXPECT_EQ(outcome.plots, each.plots) << each.meaning;
-        }
+        file = PhaseEnvelopeReaderWriter();
+        const Outcome ofFile = Read(folder.Write("file", each.text));
+        EXPECT_EQ(ofFile, (Outcome{each.result, each.message, each.plots})) << each.meaning;
+        file = PhaseEnvelopeReaderWriter();
+        file.SetDiagnosticSink(diagnosed.Sink());
+        std::istringstream stream(each.text);
+        stream.imbue(FluidBenchTest::ForeignLocale());
+        EXPECT_EQ(Read(stream), ofFile) << each.meaning;
+        EXPECT_EQ(diagnosed.Take(), each.told) << each.meaning;
     }
+}
+
+TEST_F(EnvelopeTest, TellsOfAFileThatFails) {
+    Diagnosed diagnosed;
+    file.SetDiagnosticSink(diagnosed.Sink());
+    EXPECT_EQ(Read(folder / "missing"), (Outcome{false, "Could not open file", ""}));
+    EXPECT_EQ(diagnosed.All().front().file, folder / "missing");
+    EXPECT_EQ(diagnosed.Take(), "0:cant-open");
+
+    // The block that fails is lost whole; what was read stands.
+    const std::string text = block + row + "\n\n" + Times("\n", 200'000);
+    FluidBenchTest::FailingInput failing(text, text.size());
+    std::istream stream(&failing);
+    EXPECT_EQ(Read(stream), (Outcome{true, end, oneRow}));
+    ASSERT_EQ(diagnosed.All().size(), 1U);
+    EXPECT_EQ(diagnosed.All().front().code, "file.read-failed");
+    EXPECT_EQ(diagnosed.All().front().file, "name");
+    EXPECT_GT(diagnosed.All().front().line, 100'000U);
 }
 
 TEST_F(EnvelopeTest, KeepsTheLastFailureUntilTheNext) {
@@ -259,6 +331,18 @@ TEST_F(EnvelopeTest, WritesEveryKindOfLine) {
         "Flash: \nSource: \nUnits: , \n\nBubble,,Dew,,Critical point,,\n,,,,,,\n\n";
     EXPECT_EQ(Written(plots, true), expected);
     EXPECT_EQ(Written({}, true), "");
+
+    const PhaseEnvelopeReaderWriter writer(true);
+    std::ostringstream out;
+    out.imbue(FluidBenchTest::ForeignLocale());
+    out << std::fixed << std::setprecision(2) << std::setw(9);
+    EXPECT_TRUE(writer.Write(out, plots));
+    EXPECT_EQ(out.str(), expected);
+    EXPECT_EQ(out.width(), 9);
+    out.setstate(std::ios_base::badbit);
+    EXPECT_FALSE(writer.Write(out, plots));
+    EXPECT_THROW(out.exceptions(std::ios_base::badbit), std::ios_base::failure);
+    EXPECT_THROW(writer.Write(out, plots), std::ios_base::failure);
 }
 
 TEST_F(EnvelopeTest, GivesBackWhatItWrote) {
@@ -268,8 +352,12 @@ TEST_F(EnvelopeTest, GivesBackWhatItWrote) {
         Plots plots;
         std::vector<std::string> messages;
         file.SetFileName(path);
+        Diagnosed diagnosed;
+        file.SetDiagnosticSink(diagnosed.Sink());
         ASSERT_TRUE(file.Read(plots, messages));
+        file.SetDiagnosticSink({});
         EXPECT_EQ(messages.back(), end);
+        EXPECT_EQ(diagnosed.Take(), "");
         EXPECT_EQ(Written(plots, useComma), FluidBenchTest::ReadFile(path));
         Written(plots, !useComma);
         EXPECT_EQ(Read(folder / "written").plots, Text(plots)) << "with the other separator";

@@ -9,19 +9,6 @@
 
 namespace Orv::Text {
 
-namespace {
-
-std::string_view WithoutBlanks(std::string_view text) noexcept {
-    constexpr std::string_view blanks = " \t\r\v\f\n";
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
-} // namespace
-
 CellContent LookAtCell(std::string_view cell) noexcept {
     std::string_view text = WithoutBlanks(cell);
     if (text.empty()) {

@@ -1,5 +1,8 @@
-// The letters and digits of a text, in any locale.
+// The letters, digits and blanks of a text, in any locale.
 #pragma once
+
+#include <cstddef>
+#include <string_view>
 
 namespace Orv::Text {
 
@@ -11,6 +14,15 @@ constexpr bool IsLetter(char c) noexcept {
 }
 constexpr bool IsDigit(char c) noexcept {
     return c >= '0' && c <= '9';
+}
+
+/// The text without the white space around it.
+constexpr std::string_view WithoutBlanks(std::string_view text) noexcept {
+    constexpr std::string_view blanks = " \t\r\v\f\n";
+    const std::size_t first = text.find_first_not_of(blanks);
+    return first == std::string_view::npos
+               ? std::string_view()
+               : text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
 } // namespace Orv::Text

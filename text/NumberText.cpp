@@ -419,27 +419,40 @@ double TakeAsAtof(std::string_view& text) noexcept {
     return Signed(isNegative, magnitude);
 }
 
-double ParseLeadingDecimal(std::string_view text) noexcept {
-    text = SkipSpace(text);
-    const bool isNegative = TakeSign(text);
-    return Signed(isNegative, ReadDecimal(text));
+double TakeLeadingDecimal(std::string_view& text) noexcept {
+    std::string_view number = SkipSpace(text);
+    const bool isNegative = TakeSign(number);
+    const Magnitude magnitude = ReadDecimal(number);
+    if (magnitude.isThere) {
+        text = magnitude.rest;
+    }
+    return Signed(isNegative, magnitude);
 }
 
-std::optional<double> ExtractDecimal(std::string_view text) noexcept {
-    text = SkipSpace(text);
-    const bool isNegative = TakeSign(text);
-    const Magnitude number = ReadDecimal(text);
+double ParseLeadingDecimal(std::string_view text) noexcept {
+    return TakeLeadingDecimal(text);
+}
+
+std::optional<double> TakeExtracted(std::string_view& text) noexcept {
+    std::string_view digits = SkipSpace(text);
+    const bool isNegative = TakeSign(digits);
+    const Magnitude number = ReadDecimal(digits);
     if (!number.isThere || number.isTooLarge) {
         return std::nullopt;
     }
     if (number.rest.starts_with('e') || number.rest.starts_with('E')) {
         // "1e5e" is a whole number and a letter; "1e" is an exponent that never comes.
-        const auto taken = text.substr(0, text.size() - number.rest.size());
+        const auto taken = digits.substr(0, digits.size() - number.rest.size());
         if (taken.find_first_of("eE") == std::string_view::npos) {
             return std::nullopt;
         }
     }
+    text = number.rest;
     return isNegative ? -number.value : number.value;
+}
+
+std::optional<double> ExtractDecimal(std::string_view text) noexcept {
+    return TakeExtracted(text);
 }
 
 bool ParseNumber(std::string_view text, double& number) {

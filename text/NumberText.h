@@ -53,11 +53,15 @@ double TakeAsAtof(std::string_view& text) noexcept;
 
 /// As `ParseAsAtof`, for decimal numbers alone: digits with an optional sign, point and exponent.
 double ParseLeadingDecimal(std::string_view text) noexcept;
+/// The same, and passes the number as `TakeAsAtof` does.
+double TakeLeadingDecimal(std::string_view& text) noexcept;
 
 /// The number that `stream >> value` would extract in the classic locale from a stream of `text`;
 /// nothing where the extraction would fail: no number, an exponent without digits, a number too
 /// large for a double.
 std::optional<double> ExtractDecimal(std::string_view text) noexcept;
+/// The same, and passes the number as `TakeAsAtof` does.
+std::optional<double> TakeExtracted(std::string_view& text) noexcept;
 
 /// Gives the number that `text` is from its first character to its last: decimal digits with an
 /// optional sign, point and exponent, whose letter is E or D in either case. False for anything

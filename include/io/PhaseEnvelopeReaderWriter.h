@@ -2,8 +2,10 @@
 #pragma once
 
 #include "FluidBench/Common/CommonPlottingObject.h"
+#include "io/Diagnostics.h"
 #include "io/Export.h"
 
+#include <iosfwd>
 #include <memory>
 #include <string>
 #include <vector>
@@ -30,7 +32,9 @@ namespace Orv::FluidBench::IO {
 ///
 /// Owns its file's name, the plots of the last read and the text of the last failure; a file is
 /// open only during a call. Name a file, then read or write it any number of times; one thread at a
-/// time. Movable; an object that was moved from may only be assigned to or destroyed.
+/// time. The operations on streams read and write the same bytes as those on files and need no
+/// name; the stream belongs to the caller, and its format and locale play no part and stay as they
+/// are. Movable; an object that was moved from may only be assigned to or destroyed.
 class FLUIDBENCH_IO_API PhaseEnvelopeReaderWriter {
 public:
     /// Files are written with commas or else with tabs between their cells. What a file has that is
@@ -47,15 +51,23 @@ public:
     /// Valid until the name is set again or the object goes.
     const std::string& GetFileName() const;
 
+    /// Takes what `Read` has to say beside its result ("envelope..." and "file...").
+    void SetDiagnosticSink(DiagnosticSink sink);
+
     /// Replaces `plots` by the envelopes of the file, temperature in K along x and pressure in Pa
     /// along y, and `messages` by exactly one text: that of the last failure of this object, empty
     /// when there was none yet. True tells that an envelope was read and none was cut off ahead of
     /// its headings; a file that was read to its end has "No more envelopes found" for a text.
-    /// After a failure, `plots` has the envelopes ahead of it.
+    /// After a failure, `plots` has the envelopes ahead of it. A file whose reading fails midway
+    /// counts as ending there; the diagnostics tell.
     ///
     /// Throws `std::out_of_range` where a number in a heading line has no separator behind it; both
-    /// vectors are empty then.
+    /// vectors are empty then, as they are after any other exception.
     bool Read(std::vector<Common::CommonPlottingObject>& plots, std::vector<std::string>& messages);
+    /// The same from a stream, which is read to its end or to where the file's reading would stop;
+    /// diagnostics call it `name`.
+    bool Read(std::istream& in, std::vector<Common::CommonPlottingObject>& plots,
+              std::vector<std::string>& messages, const std::string& name = {});
 
     /// Writes the plots, replacing an existing file, with six significant digits. Lines of a type
     /// other than `PhaseCurve` or of an unknown phase are left out, and so is all but the first
@@ -63,6 +75,9 @@ public:
     /// more than 499 characters can be written, but not read back. False when the file can't be
     /// opened; a write that fails afterwards, on a full disk for instance, isn't detected.
     bool Write(const std::vector<Common::CommonPlottingObject>& plots) const;
+    /// The same to a stream. False when the stream isn't good any more; what it still holds back,
+    /// only its flush can tell.
+    bool Write(std::ostream& out, const std::vector<Common::CommonPlottingObject>& plots) const;
 
 private:
     std::unique_ptr<Impl::IO::PhaseEnvelopeFile> file_;

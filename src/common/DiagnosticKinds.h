@@ -45,6 +45,49 @@ inline constexpr DiagnosticKind negativeValue    {"blackoil.negative-value", War
 inline constexpr DiagnosticKind noDensities      {"blackoil.no-densities", Warning};
 
 } // namespace BlackOilKinds
+
+namespace EnvelopeKinds {
+
+using enum FluidBench::IO::Severity;
+
+inline constexpr DiagnosticKind noSeparator      {"envelope.no-separator", Error};
+inline constexpr DiagnosticKind noEnvelope       {"envelope.no-envelope", Error};
+inline constexpr DiagnosticKind noFlash          {"envelope.no-flash", Error};
+inline constexpr DiagnosticKind noHeadings       {"envelope.no-headings", Error};
+inline constexpr DiagnosticKind openHeading      {"envelope.open-heading", Error};
+inline constexpr DiagnosticKind lineTooLong      {"envelope.line-too-long", Error};
+inline constexpr DiagnosticKind otherUnits       {"envelope.other-units", Warning};
+inline constexpr DiagnosticKind headingOrder     {"envelope.heading-order", Warning};
+inline constexpr DiagnosticKind digitsInHeading  {"envelope.digits-in-heading", Warning};
+inline constexpr DiagnosticKind fractionRange    {"envelope.fraction-range", Warning};
+inline constexpr DiagnosticKind shortRow         {"envelope.short-row", Warning};
+inline constexpr DiagnosticKind extraCells       {"envelope.extra-cells", Warning};
+inline constexpr DiagnosticKind notANumber       {"envelope.not-a-number", Warning};
+inline constexpr DiagnosticKind textBesideNumber {"envelope.text-beside-number", Warning};
+inline constexpr DiagnosticKind notFinite        {"envelope.not-finite", Warning};
+inline constexpr DiagnosticKind unevenColumns    {"envelope.uneven-columns", Warning};
+inline constexpr DiagnosticKind rowOutsideBlock  {"envelope.row-outside-block", Warning};
+inline constexpr DiagnosticKind noRows           {"envelope.no-rows", Note};
+
+} // namespace EnvelopeKinds
+
+namespace DfaKinds {
+
+using enum FluidBench::IO::Severity;
+
+inline constexpr DiagnosticKind noHeader         {"dfa.no-header", Error};
+inline constexpr DiagnosticKind noStation        {"dfa.no-station", Error};
+inline constexpr DiagnosticKind secondHeader     {"dfa.second-header", Warning};
+inline constexpr DiagnosticKind notARow          {"dfa.not-a-row", Warning};
+inline constexpr DiagnosticKind rowCut           {"dfa.row-cut", Warning};
+inline constexpr DiagnosticKind shortRow         {"dfa.short-row", Warning};
+inline constexpr DiagnosticKind textBehindNumber {"dfa.text-behind-number", Warning};
+inline constexpr DiagnosticKind absentValue      {"dfa.absent-value", Warning};
+inline constexpr DiagnosticKind noPressure       {"dfa.no-pressure", Warning};
+inline constexpr DiagnosticKind wellReturns      {"dfa.well-returns", Warning};
+inline constexpr DiagnosticKind otherText        {"dfa.other-text", Note};
+
+} // namespace DfaKinds
 // clang-format on
 
 } // namespace Orv::FluidBench::Impl::IO

@@ -16,6 +16,7 @@
 #include "FluidBench/Common/Line.h"
 #include "FluidBench/Common/PTline.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <string_view>
@@ -60,5 +61,15 @@ inline constexpr auto lineKinds = [] {
         {"TX3", TX3, Pairs::EachWithNumber, std::nullopt},
     });
 }();
+
+/// The kind of a line that was read.
+inline const LineKind& KindOf(const Common::PTline& line) {
+    return *std::ranges::find(lineKinds, line.GetLineType(), &LineKind::identifier);
+}
+
+/// Where a number in a cell begins, for the reader.
+constexpr bool BeginsNumber(char c) noexcept {
+    return (c >= '0' && c <= '9') || c == '.' || c == '-';
+}
 
 } // namespace Orv::FluidBench::Impl::IO

@@ -1,5 +1,6 @@
 #include "PhaseEnvelopeParser.h"
 
+#include "Characters.h"
 #include "NumberText.h"
 #include "PhaseEnvelopeFormat.h"
 
@@ -12,7 +13,9 @@ namespace Orv::FluidBench::Impl::IO {
 using Common::CommonPlottingObject;
 using Common::Line;
 using Common::PTline;
+using Text::IsDigit;
 using Text::ParseLeadingDecimal;
+using Text::TakeLeadingDecimal;
 using AxisType = CommonPlottingObject::AxisType;
 using Identifier = PTline::PTlineIdentifier;
 
@@ -20,10 +23,6 @@ namespace {
 
 constexpr std::string_view hydrateTypeI = "Hydrate type I";
 constexpr std::string_view hydrateTypeII = "Hydrate type II";
-
-constexpr bool IsDigit(char c) noexcept {
-    return c >= '0' && c <= '9';
-}
 
 bool Holds(std::string_view line, std::string_view word) {
     return line.find(word) != std::string_view::npos;
@@ -42,53 +41,29 @@ bool HoldsHeading(std::string_view line, std::string_view heading) {
     return heading == hydrateTypeI ? HoldsHydrateTypeI(line) : Holds(line, heading);
 }
 
-const LineKind& KindOf(Identifier identifier) {
-    return *std::ranges::find(lineKinds, identifier, &LineKind::identifier);
-}
-
-Line ToLine(const PTline& line) {
-    const LineKind& kind = KindOf(line.GetLineType());
+// The columns go with the line.
+Line ToLine(PTline&& line) {
+    const LineKind& kind = KindOf(line);
+    std::vector<double> temperatures = std::move(line).GetTemperatures();
+    std::vector<double> pressures = std::move(line).GetPressures();
     if (kind.pairs == Pairs::One) {
-        return {"", line.GetTemperatures(), line.GetPressures(), lineType, kind.phase};
+        return {"", std::move(temperatures), std::move(pressures), lineType, kind.phase};
     }
-    return {"",         line.GetTemperatures(),       line.GetPressures(), lineType,
+    return {"",         std::move(temperatures),      std::move(pressures), lineType,
             kind.phase, line.GetQualityLineFraction()};
 }
 
 } // namespace
 
-EnvelopeLines::EnvelopeLines(std::istream& text) : reader_(text, longestLine) {
-    std::string_view line;
-    while (headSize_ < head_.size() && reader_.Next(line)) {
-        head_[headSize_++] = line;
-    }
-    Advance();
-}
-
-std::optional<char> EnvelopeLines::Separator() const {
-    constexpr std::size_t shortestLetterLine = 4; // "T,P,"
-    const std::string& letters = head_.back();
-    if (letters.size() < shortestLetterLine || (letters[1] != ',' && letters[1] != '\t')) {
-        return std::nullopt;
-    }
-    return letters[1];
-}
-
-void EnvelopeLines::Advance() {
-    std::string_view line;
-    if (headTaken_ < headSize_) {
-        line_ = head_[headTaken_++];
-    } else if (reader_.Next(line)) {
-        line_ = line;
-    } else {
-        line_.reset();
-    }
-}
-
 PhaseEnvelopeParser::PhaseEnvelopeParser(EnvelopeLines& lines, char separator,
                                          std::vector<CommonPlottingObject>& plots,
-                                         std::string& lastError)
-    : lines_(lines), separator_(separator), plots_(plots), lastError_(lastError) {}
+                                         std::string& lastError, Diagnostics& diagnostics)
+    : lines_(lines),
+      separator_(separator),
+      plots_(plots),
+      lastError_(lastError),
+      isWatched_(diagnostics.AreWanted()),
+      watch_(diagnostics, lines, separator) {}
 
 bool PhaseEnvelopeParser::Run() {
     State state = State::SeekingFlash;
@@ -115,12 +90,12 @@ const PhaseEnvelopeParser::Transition& PhaseEnvelopeParser::Next(State state) co
         {SeekingFlash,    NoLine,   &P::TellNoMoreEnvelopes, Stays,    Ended},
         {SeekingFlash,    Bubble,   &P::TellFlashMissing,    Stays,    Ended},
         {SeekingFlash,    Flash,    &P::BeginEnvelope,       Advances, SeekingHeadings},
-        {SeekingFlash,    Anything, &P::PassOver,            Advances, SeekingFlash},
+        {SeekingFlash,    Anything, &P::PassOutsideBlock,    Advances, SeekingFlash},
 
         {SeekingHeadings, NoLine,   &P::TellHeadingsMissing, Stays,    Failed},
         {SeekingHeadings, Bubble,   &P::ReadHeadings,        Advances, SeekingData},
         {SeekingHeadings, Flash,    &P::TellHeadingsMissing, Stays,    Failed},
-        {SeekingHeadings, Anything, &P::PassOver,            Advances, SeekingHeadings},
+        {SeekingHeadings, Anything, &P::PassAheadOfHeadings, Advances, SeekingHeadings},
 
         {SeekingData,     NoLine,   &P::FinishEnvelope,      Stays,    Ended},
         {SeekingData,     Digit,    &P::PassOver,            Stays,    ReadingRows},
@@ -154,16 +129,33 @@ bool PhaseEnvelopeParser::Shows(Sight sight) const {
     return true;
 }
 
+void PhaseEnvelopeParser::PassOutsideBlock() {
+    if (isWatched_) {
+        watch_.OutsideBlock();
+    }
+}
+
+void PhaseEnvelopeParser::PassAheadOfHeadings() {
+    if (isWatched_) {
+        watch_.AheadOfHeadings();
+    }
+}
+
 void PhaseEnvelopeParser::TellFlashMissing() {
     lastError_ = "Flash used not where expected";
+    watch_.FlashMissing();
 }
 
 void PhaseEnvelopeParser::TellNoMoreEnvelopes() {
     lastError_ = "No more envelopes found";
+    if (plots_.empty()) {
+        watch_.NoEnvelope();
+    }
 }
 
 void PhaseEnvelopeParser::TellHeadingsMissing() {
     lastError_ = "Column headings not found";
+    watch_.HeadingsMissing();
 }
 
 void PhaseEnvelopeParser::BeginEnvelope() {
@@ -184,6 +176,9 @@ void PhaseEnvelopeParser::ReadHeadings() {
         }
     }
     ReadFractions(headings);
+    if (isWatched_) {
+        watch_.Headings(ptLines_);
+    }
     columns_.assign(2 * ptLines_.size(), {});
 }
 
@@ -196,6 +191,7 @@ void PhaseEnvelopeParser::ReadFractions(std::string_view headings) {
         const double fraction = ParseLeadingDecimal(headings.substr(begin, end - begin));
         ptLines_.emplace_back(Identifier::Quality, fraction);
         if (end == std::string_view::npos) {
+            watch_.OpenHeading();
             // Callers know this text; standard libraries each have one of their own.
             throw std::out_of_range("invalid string position");
         }
@@ -206,30 +202,45 @@ void PhaseEnvelopeParser::ReadFractions(std::string_view headings) {
 // A row fills the columns down to its last separator. A cell without a number adds nothing, so
 // what stands below it moves up.
 void PhaseEnvelopeParser::ReadRow() {
-    std::string_view rest = *lines_.Line();
+    if (isWatched_) {
+        watch_.Row();
+    }
+    const std::string_view line = *lines_.Line();
+    const char* position = line.data();
+    const char* const end = position + line.size();
     for (std::size_t column = 0; column < columns_.size(); ++column) {
-        const std::size_t end = rest.find(separator_);
-        if (end == std::string_view::npos) {
+        while (position != end && *position != separator_ && !BeginsNumber(*position)) {
+            ++position;
+        }
+        const bool hasNumber = position != end && *position != separator_;
+        double number = 0.0;
+        if (hasNumber) {
+            std::string_view rest(position, static_cast<std::size_t>(end - position));
+            number = TakeLeadingDecimal(rest); // no number goes on behind a separator
+            position = std::find(rest.data(), end, separator_);
+        }
+        if (position == end) {
             lastError_ = "Error in column " + std::to_string(column);
             return;
         }
-        const std::string_view cell = rest.substr(0, end);
-        const std::size_t number = cell.find_first_of("-.0123456789");
-        if (number != std::string_view::npos) {
-            columns_[column].push_back(ParseLeadingDecimal(cell.substr(number)));
+        if (hasNumber) {
+            columns_[column].push_back(number);
         }
-        rest.remove_prefix(end + 1);
+        ++position;
     }
 }
 
 void PhaseEnvelopeParser::FinishEnvelope() {
+    if (isWatched_) {
+        watch_.EndBlock();
+    }
     CommonPlottingObject plot(AxisType::Temperature, AxisType::Pressure);
     auto column = columns_.begin();
-    for (PTline line : ptLines_) { // a copy, whose points go with it
-        const std::vector<double> temperatures = std::move(*column++);
-        const std::vector<double> pressures = std::move(*column++);
-        line.SetLine(pressures, temperatures);
-        plot.AddLine(ToLine(line));
+    for (PTline& line : ptLines_) {
+        std::vector<double> temperatures = std::move(*column++);
+        std::vector<double> pressures = std::move(*column++);
+        line.SetLine(std::move(pressures), std::move(temperatures));
+        plot.AddLine(ToLine(std::move(line)));
     }
     plots_.push_back(std::move(plot));
 }

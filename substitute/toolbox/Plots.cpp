@@ -72,6 +72,14 @@ void PTline::SetLine(const std::vector<double>& pressures,
     pressures_ = std::move(first);
 }
 
+void PTline::SetLine(std::vector<double>&& pressures, std::vector<double>&& temperatures) noexcept {
+    const std::size_t points = std::min(pressures.size(), temperatures.size());
+    pressures.resize(points); // shorter, which takes no memory
+    temperatures.resize(points);
+    pressures_ = std::move(pressures);
+    temperatures_ = std::move(temperatures);
+}
+
 PTline::PTlineIdentifier PTline::GetLineType() const noexcept {
     return identifier_;
 }
@@ -80,12 +88,20 @@ double PTline::GetQualityLineFraction() const noexcept {
     return fraction_;
 }
 
-std::vector<double> PTline::GetPressures() const {
+std::vector<double> PTline::GetPressures() const& {
     return pressures_;
 }
 
-std::vector<double> PTline::GetTemperatures() const {
+std::vector<double> PTline::GetTemperatures() const& {
     return temperatures_;
+}
+
+std::vector<double> PTline::GetPressures() && noexcept {
+    return std::move(pressures_);
+}
+
+std::vector<double> PTline::GetTemperatures() && noexcept {
+    return std::move(temperatures_);
 }
 
 CommonPlottingObject::CommonPlottingObject(AxisType xAxis, AxisType yAxis)

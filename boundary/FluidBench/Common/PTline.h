@@ -32,14 +32,20 @@ public:
     ~PTline();
 
     /// Replaces the points by those that the columns make, in Pa and K: entry k of each belongs to
-    /// point k. What one column has more than the other is dropped.
+    /// point k. What one column has more than the other is dropped. Columns that may be moved from
+    /// are taken over, which is the stand-in's own.
     void SetLine(const std::vector<double>& pressures, const std::vector<double>& temperatures);
+    void SetLine(std::vector<double>&& pressures, std::vector<double>&& temperatures) noexcept;
 
     /// As given when the line was made; a fraction is 0 to 1.
     PTlineIdentifier GetLineType() const noexcept;
     double GetQualityLineFraction() const noexcept;
-    std::vector<double> GetPressures() const;    ///< Pa
-    std::vector<double> GetTemperatures() const; ///< K
+    std::vector<double> GetPressures() const&;    ///< Pa
+    std::vector<double> GetTemperatures() const&; ///< K
+
+    /// A line that goes at once gives its columns away, which is the stand-in's own.
+    std::vector<double> GetPressures() && noexcept;
+    std::vector<double> GetTemperatures() && noexcept;
 
 private:
     PTlineIdentifier identifier_;
