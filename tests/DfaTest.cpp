@@ -1,5 +1,6 @@
 // Reading the exports of a downhole fluid analysis job, and matching stations by depth.
 #include "DepthMatch.h"
+#include "Diagnosed.h"
 #include "FluidBench/Utilities/Equations.h"
 #include "TestSupport.h"
 #include "io/DFAReader.h"
@@ -7,9 +8,12 @@
 #include <algorithm>
 #include <cmath>
 #include <random>
+#include <sstream>
 #include <stdexcept>
 
 using namespace Orv::FluidBench::IO;
+using FluidBenchTest::Diagnosed;
+using FluidBenchTest::FailingInput;
 using FluidBenchTest::TemporaryFolder;
 using Orv::FluidBench::Utilities::Equations;
 
@@ -27,26 +31,43 @@ std::string PressureRow(const std::string& well, const std::string& depth,
     return "1 \"" + well + "\" " + depth + " 1 \"S\" " + pressure + "\n";
 }
 
+// "A: 1 2; B: 3"
+std::string DepthsOf(const DFAReader& reader) {
+    std::string text;
+    for (const WellData& well : reader.GetExtractedData()) {
+        text += (text.empty() ? "" : "; ") + well.name + ":";
+        for (const double depth : well.depths) {
+            text += " " + std::to_string(std::lround(depth));
+        }
+    }
+    return text;
+}
+
 class DfaTest : public testing::Test {
 protected:
+    // Imports files without anybody who listens, and the same texts as streams with somebody, who
+    // is told of the FT file's lines by "FT3:short-row".
     bool Import(const std::string& main, const std::string& pressure) {
+        DFAReader twin = reader;
+        Diagnosed diagnosed;
+        twin.SetDiagnosticSink(diagnosed.Sink());
+        std::istringstream mainStream(main);
+        std::istringstream pressureStream(pressure);
+        const bool isGood = twin.Import(mainStream, pressureStream, "", "FT");
+        told.clear();
+        for (const Diagnostic& each : diagnosed.All()) {
+            told += (told.empty() ? "" : " ") + each.file + std::to_string(each.line) + ':' +
+                    each.code.substr(each.code.find('.') + 1);
+        }
         folder.Write("W_FT.txt", pressure);
-        return reader.Import(folder.Write("W_DFA.txt", main));
+        EXPECT_EQ(reader.Import(folder.Write("W_DFA.txt", main)), isGood);
+        EXPECT_EQ(Depths(), DepthsOf(twin));
+        return isGood;
     }
     const std::vector<WellData>& Wells() { return reader.GetExtractedData(); }
+    std::string Depths() { return DepthsOf(reader); }
 
-    // "A: 1 2; B: 3"
-    std::string Depths() {
-        std::string text;
-        for (const WellData& well : Wells()) {
-            text += (text.empty() ? "" : "; ") + well.name + ":";
-            for (const double depth : well.depths) {
-                text += " " + std::to_string(std::lround(depth));
-            }
-        }
-        return text;
-    }
-
+    std::string told;
     TemporaryFolder folder;
     DFAReader reader;
 };
@@ -89,28 +110,42 @@ TEST_F(DfaTest, ReadsTheColumnsOfARowAcrossItsQuotes) {
         const char* meaning;
         std::string line;
         std::string depths;
+        std::string told;
     };
     const Case cases[] = {
-        {"numbers on both sides", "\"A\" 6 \"S\" " + tail.substr(1), "A: 6"},
-        {"numbers behind the second text alone", "\"A\"\"S\" 6" + tail, "A: 6"},
-        {"a number that goes on behind the text", "\"A\" 6\"S\" 1" + tail, "A: 61"},
-        {"any one character is cut off", "\"A\"x6" + tail + "\"S\"", "A: 6"},
-        {"letters behind a number", "\"A\" 6ft" + tail + "\"S\"", "A: 6"},
-        {"more columns than needed", "\"A\" 6" + tail + " 20 21 \"S\" x", "A: 6"},
-        {"two blanks ahead", "\"A\"  6" + tail + "\"S\"", ""},
-        {"two blanks between", "\"A\" 6 " + tail + "\"S\"", ""},
-        {"nineteen columns", "\"A\" 6" + tail.substr(0, tail.size() - 3) + "\"S\"", ""},
-        {"a letter among the numbers", "\"A\" 6 1 900 x" + tail + "\"S\"", ""},
-        {"a number too large", "\"A\" 1e999" + tail + "\"S\"", ""},
-        {"three quotes", "\"A\" 6" + tail + "\"S", ""},
-        {"five quotes", "\"A\" 6" + tail + "\"S\"\"", ""},
-        {"a tab instead of a blank", "\"A\" 6\t1" + tail.substr(2) + "\"S\"", ""},
-        {"a short row of another well", "\"B\" 1\"S\"\n" + MainRow("A", "6"), "A: 6"},
+        {"numbers on both sides", "\"A\" 6 \"S\" " + tail.substr(1), "A: 6", "3:no-pressure"},
+        {"numbers behind the second text alone", "\"A\"\"S\" 6" + tail, "A: 6", "3:no-pressure"},
+        {"a number that goes on behind the text", "\"A\" 6\"S\" 1" + tail, "A: 61",
+         "3:no-pressure"},
+        {"any one character is cut off", "\"A\"x6" + tail + "\"S\"", "A: 6", "3:no-pressure"},
+        {"letters behind a number", "\"A\" 6ft" + tail + "\"S\"", "A: 6",
+         "3:text-behind-number 3:no-pressure"},
+        {"more columns than needed", "\"A\" 6" + tail + " 20 21 \"S\" x", "A: 6",
+         "3:row-cut 3:no-pressure"},
+        {"two blanks ahead", "\"A\"  6" + tail + "\"S\"", "", "3:row-cut 3:short-row 0:no-station"},
+        {"two blanks between", "\"A\" 6 " + tail + "\"S\"", "",
+         "3:row-cut 3:short-row 0:no-station"},
+        {"nineteen columns", "\"A\" 6" + tail.substr(0, tail.size() - 3) + "\"S\"", "",
+         "3:short-row 0:no-station"},
+        {"a letter among the numbers", "\"A\" 6 1 900 x" + tail + "\"S\"", "",
+         "3:row-cut 3:short-row 0:no-station"},
+        {"a number too large", "\"A\" 1e999" + tail + "\"S\"", "",
+         "3:row-cut 3:short-row 0:no-station"},
+        {"three quotes", "\"A\" 6" + tail + "\"S", "", "3:not-a-row 0:no-station"},
+        {"five quotes", "\"A\" 6" + tail + "\"S\"\"", "", "3:not-a-row 0:no-station"},
+        {"a blank and a tab ahead of a number", "\"A\" 6 \t1" + tail.substr(2) + " \"S\"", "A: 6",
+         "3:no-pressure"},
+        {"a blank behind the last", "\"A\" 6" + tail + " \"S\" \r", "A: 6", "3:no-pressure"},
+        {"a tab instead of a blank", "\"A\" 6\t1" + tail.substr(2) + "\"S\"", "",
+         "3:text-behind-number 3:short-row 0:no-station"},
+        {"a short row of another well", "\"B\" 1\"S\"\n" + MainRow("A", "6"), "A: 6",
+         "3:short-row 4:no-pressure"},
     };
     for (const Case& each : cases) {
         reader = DFAReader();
         EXPECT_TRUE(Import(header + each.line, header)) << each.meaning;
         EXPECT_EQ(Depths(), each.depths) << each.meaning;
+        EXPECT_EQ(told, each.told) << each.meaning;
     }
     // A short row doesn't part the well's run either.
     reader = DFAReader();
@@ -120,28 +155,74 @@ TEST_F(DfaTest, ReadsTheColumnsOfARowAcrossItsQuotes) {
 
 TEST_F(DfaTest, FindsTheHeader) {
     const std::string row = MainRow("A", "1");
-    const std::pair<std::string, bool> files[] = {
-        {header, true},
-        {"BEGIN HEADER\n" + row + "END HEADER\n" + row, true},
-        {"say BEGIN HEADER here\nand END HEADER there", true},
-        {"BEGIN HEADER and END HEADER\n" + row, true},
-        {header + header + row, true},
-        {"", false},
-        {row, false},
-        {"BEGIN HEADER\n" + row, false},
-        {"END HEADER\n" + row, false},
-        {"END HEADER\nBEGIN HEADER\n" + row, false},
-        {header + "BEGIN HEADER\n" + row, false},
-        {std::string("\0\xff\n\"\"\"\"\n", 8), false},
+    struct Case {
+        std::string content;
+        bool isGood;
+        std::string told; // of a main file
     };
-    for (const auto& [content, isGood] : files) {
+    const Case cases[] = {
+        {header, true, "0:no-station"},
+        {"BEGIN HEADER\n" + row + "END HEADER\n" + row, true, "4:no-pressure"},
+        {"say BEGIN HEADER here\nand END HEADER there", true, "0:no-station"},
+        {"BEGIN HEADER and END HEADER\n" + row, true, "2:no-pressure"},
+        {header + header + row, true, "5:no-pressure"},
+        {header + row + "\"\n" + header + row, true, "4:not-a-row 6:second-header 7:no-pressure"},
+        {"END HEADER\n" + header + row, true, "4:no-pressure"},
+        {"", false, "0:no-header 0:no-header"},
+        {row, false, "0:no-header 0:no-header"},
+        {"BEGIN HEADER\n" + row, false, "0:no-header"},
+        {"END HEADER\n" + row, false, "0:no-header"},
+        {"END HEADER\nBEGIN HEADER\n" + row, false, "0:no-header"},
+        {header + "BEGIN HEADER\n" + row, false, "0:no-header"},
+        {std::string("\0\xff\n\"\"\"\"\n", 8), false, "0:no-header 0:no-header"},
+    };
+    for (const auto& [content, isGood, toldOfMain] : cases) {
         reader = DFAReader();
         EXPECT_EQ(Import(content, header), isGood) << content;
         EXPECT_EQ(Depths(), isGood && content.ends_with(row) ? "A: 1" : "") << content;
+        EXPECT_EQ(told, toldOfMain) << content;
         reader = DFAReader();
         EXPECT_EQ(Import(header + row, content), isGood) << content;
         EXPECT_EQ(Depths(), isGood ? "A: 1" : "") << content;
+        EXPECT_EQ(told.find("FT0:no-header") == std::string::npos, isGood) << content;
     }
+}
+
+TEST_F(DfaTest, TellsOfWellsAndValues) {
+    ASSERT_TRUE(Import(header + "page 2\n\n" + MainRow("A", "1") + MainRow("B", "2") +
+                           MainRow("A", "-999") + MainRow("A", "3"),
+                       header + PressureRow("A", "1", "-9999") + PressureRow("B", "2", "50") +
+                           PressureRow("A", "-999", "7") + "1 \"A\" 5 1 \"S\"\n"));
+    EXPECT_EQ(told, "3:other-text 7:absent-value FT3:absent-value FT5:absent-value FT6:short-row "
+                    "7:well-returns 8:no-pressure");
+    EXPECT_EQ(Depths(), "A: 1; B: 2; A: -999 3");
+}
+
+TEST_F(DfaTest, RefusesFilesThatFail) {
+    ASSERT_TRUE(Import(header + MainRow("A", "1"), header));
+    const std::string main = header + MainRow("B", "1");
+    const std::string pressures = header + PressureRow("B", "1", "50");
+    Diagnosed diagnosed;
+    reader.SetDiagnosticSink(diagnosed.Sink());
+    for (const bool mainFails : {true, false}) {
+        FailingInput failing(mainFails ? main : pressures, header.size());
+        std::istringstream good(mainFails ? pressures : main);
+        std::istream bad(&failing);
+        EXPECT_FALSE(mainFails ? reader.Import(bad, good, "failing", "good")
+                               : reader.Import(good, bad, "good", "failing"));
+        EXPECT_EQ(diagnosed.All().at(0).file, "failing");
+        EXPECT_EQ(diagnosed.Take(), "0:read-failed");
+        EXPECT_EQ(Depths(), "A: 1");
+    }
+    EXPECT_FALSE(reader.Import(folder / "missing_DFA.txt"));
+    EXPECT_EQ(diagnosed.All().at(1).file, folder / "missing_FT.txt");
+    EXPECT_EQ(diagnosed.Take(), "0:cant-open 0:cant-open");
+
+    reader.SetDiagnosticSink([](const Diagnostic& each) { throw std::runtime_error(each.code); });
+    std::istringstream mainStream(main);
+    std::istringstream pressureStream(header);
+    EXPECT_THROW(reader.Import(mainStream, pressureStream), std::runtime_error);
+    EXPECT_EQ(Depths(), "A: 1");
 }
 
 TEST_F(DfaTest, FindsThePressureFileByTheMainFilesName) {

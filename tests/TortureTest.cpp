@@ -14,6 +14,8 @@
 #include "Kes/SimFluid/StdDepthTable.h"
 #include "Kes/SimFluid/StdTemperatureTable.h"
 #include "Kes/SimFluid/StdTracerModel.h"
+#include "io/DFAReader.h"
+#include "io/PhaseEnvelopeReaderWriter.h"
 
 #include <gtest/gtest.h>
 
@@ -131,6 +133,13 @@ void Tell(std::ostream& out, const StdTemperatureTable& table) {
     for (int row = 0; row < table.getNumTemperatures(); ++row) {
         out << ' ' << table.getTemperature(row) << ' '
             << table.getProperty(row, table.getNumComponents() - 1);
+    }
+}
+
+void Tell(std::ostream& out, const IO::DFAReader& reader) {
+    for (const IO::WellData& well : reader.GetExtractedData()) {
+        out << well.name << ' ' << well.depths.front() << ' ' << well.pressures.size() << ' '
+            << well.compositions.size() << ' ';
     }
 }
 
@@ -277,7 +286,9 @@ TEST(Torture, Plots) {
 
     using Common::PTline;
     const PTline line(PTline::PTlineIdentifier::Dew, 0.0);
-    ChangesAsAWhole("columns", line, [](PTline& object) { object.SetLine({1.0, 2.0}, {3.0}); });
+    const std::vector<double> column = {1.0, 2.0};
+    ChangesAsAWhole("columns", line, [&](PTline& object) { object.SetLine(column, column); });
+    ChangesAsAWhole("new columns", line, [](PTline& object) { object.SetLine({1.0, 2.0}, {3.0}); });
     PTline quality(PTline::PTlineIdentifier::Quality, 0.5);
     quality.SetLine({1.0}, {2.0});
     IsAssignedAsAWhole("a line of columns", line, quality);
@@ -321,4 +332,37 @@ TEST(Torture, TablesOfTheSimulator) {
         const bool made = memory.Run([&] { tracer.makeDepthTable(4); });
         EXPECT_EQ(tracer.hasDepthTablesOfType(4), made);
     });
+}
+
+TEST(Torture, Readers) {
+    const auto importWell = [](IO::DFAReader& reader, const std::string& well) {
+        const std::string header = "BEGIN HEADER\nEND HEADER\n";
+        std::string text = header;
+        for (const char* const depth : {"2", "1"}) {
+            text += "\"" + well + "\" " + depth + " 1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6 7 8 9\"S\"\n";
+        }
+        std::istringstream main(text);
+        std::istringstream pressures(text);
+        EXPECT_TRUE(reader.Import(main, pressures));
+    };
+    IO::DFAReader reader;
+    importWell(reader, first);
+    ChangesAsAWhole("an import", reader,
+                    [&](IO::DFAReader& object) { importWell(object, second); });
+    IO::DFAReader other;
+    importWell(other, third);
+    importWell(other, second);
+    IsAssignedAsAWhole("a reader", reader, other);
+
+    const std::string block = "Flash\n\n\n\nBubble,,Dew,,Critical point,,\nT,P,\n1,2,3,4,5,6,\n\n";
+    const std::uint64_t failures = ForEachAllocation([&](FailingAllocations& memory) {
+        IO::PhaseEnvelopeReaderWriter file;
+        std::istringstream text(block + block);
+        std::vector<Common::CommonPlottingObject> plots;
+        std::vector<std::string> messages;
+        const bool isDone = memory.Run([&] { EXPECT_TRUE(file.Read(text, plots, messages)); });
+        EXPECT_EQ(plots.size(), isDone ? 2U : 0U);
+        EXPECT_EQ(messages.size(), isDone ? 1U : 0U);
+    });
+    EXPECT_GT(failures, 10U);
 }

@@ -3,10 +3,17 @@
 
 #include "FluidBench/Experiments/ObservedExperiment.h"
 #include "FluidBench/Model/CompositionalFluid.h"
+#include "io/Diagnostics.h"
 #include "io/Export.h"
 
+#include <cstdint>
+#include <iosfwd>
 #include <string>
 #include <vector>
+
+namespace Orv::FluidBench::Impl::IO {
+class Diagnostics;
+}
 
 namespace Orv::FluidBench::IO {
 
@@ -61,13 +68,21 @@ public:
     ~DFAReader();
     DFAReader& operator=(const DFAReader&);
 
+    /// Takes what `Import` has to say beside its result ("dfa..." and "file...").
+    void SetDiagnosticSink(DiagnosticSink sink);
+
     /// Reads the main file and its FT file and adds their wells behind those of earlier calls. A
     /// well is a run of rows with the same well name. A station's pressure is that of the last row
     /// of the FT file with the same well name and depth.
     ///
-    /// False when either file can't be opened or lacks its header; the wells are then as they were.
-    /// A file without any row is no failure.
+    /// False when either file can't be opened, lacks its header or can't be read to its end; the
+    /// wells are then as they were, as they are after any exception. A file without any row is no
+    /// failure.
     bool Import(std::string fileName);
+    /// The same from a stream for each file, both of which are read to their ends; diagnostics call
+    /// them by the names.
+    bool Import(std::istream& main, std::istream& pressures, const std::string& mainName = {},
+                const std::string& pressuresName = {});
 
     /// The wells of all imports. Valid until the next import or assignment.
     const std::vector<WellData>& GetExtractedData() const;
@@ -88,23 +103,21 @@ public:
     Experiments::ObservedExperiment GetDFAExperiment() const;
 
 private:
-    bool ImportData(std::string fileName, Data& data);
-    bool CacheFileContent(std::string fileName, std::vector<std::string>& lines) const;
-    bool ExtractData(std::vector<std::string>& lines, std::vector<std::string>& dataLines) const;
-    void ConvertDataToDoubles(std::vector<std::string>& dataLines, Data& data);
-    std::vector<std::string> ExtractSubStrings(const std::string& text,
-                                               std::string delimiter) const;
-    bool ExtractDataOfInterest();
+    bool ImportData(std::istream& main, Impl::IO::Diagnostics& ofMain, std::istream& pressures,
+                    Impl::IO::Diagnostics& ofPressures);
+    std::vector<WellData> ExtractDataOfInterest(const std::vector<std::uint64_t>& lines,
+                                                Impl::IO::Diagnostics& ofMain) const;
 
     std::vector<int> SortStations(std::vector<double> depths) const;
     std::vector<int> SortStations() const;
-    void SortStations(std::vector<WellData>& records);
+    void SortStations(std::vector<WellData>& records) const;
     double FilterOutNegativeValues(double value) const;
 
     Data mainData;
     Data pressureData;
     std::vector<WellData> wells;
     int indexOfWell = 0;
+    DiagnosticSink diagnosticSink;
 };
 
 } // namespace Orv::FluidBench::IO

@@ -1,17 +1,19 @@
 #include "io/DFAReader.h"
 
 #include "DepthMatch.h"
+#include "DfaExport.h"
+#include "Diagnostics.h"
 #include "FluidBench/Common/Units.h"
 #include "FluidBench/Experiments/Stage.h"
 #include "FluidBench/Model/ComponentLibrary.h"
-#include "LineReader.h"
-#include "NumberText.h"
-#include "TextFile.h"
+#include "InputFile.h"
+#include "Quote.h"
 
 #include <algorithm>
 #include <iterator>
 #include <numeric>
 #include <stdexcept>
+#include <unordered_set>
 #include <utility>
 
 namespace Orv::FluidBench::IO {
@@ -23,40 +25,19 @@ using Experiments::ExperimentType;
 using Experiments::ObservedExperiment;
 using Experiments::Stage;
 using Experiments::StageResults;
+using Impl::IO::Diagnostics;
+using Impl::IO::OpenOrTell;
 using Model::ComponentLibrary;
 using Model::CompositionalFluid;
 using Model::FluidComponent;
-using Text::ExtractDecimal;
-using Text::LineReader;
-using Text::OpenForReading;
+namespace DfaKinds = Impl::IO::DfaKinds;
+namespace MainColumn = Impl::IO::MainColumn;
+namespace PressureColumn = Impl::IO::PressureColumn;
 
 namespace {
 
 constexpr std::size_t lengthOfFileKind = 7; // "DFA.txt", as a rule
 constexpr const char* pressureFileKind = "FT.txt";
-
-constexpr std::size_t quotesOfRow = 4;
-constexpr std::size_t piecesOfRow = quotesOfRow + 1;
-constexpr std::size_t wellPiece = 1;
-constexpr std::size_t firstNumbersPiece = 2;
-constexpr std::size_t stationPiece = 3;
-constexpr std::size_t lastNumbersPiece = 4;
-
-constexpr std::size_t depthColumn = 0; // of both files, in ft
-
-namespace MainColumn {
-constexpr std::size_t gasOilRatio = 2;
-constexpr std::size_t firstFraction = 3;
-constexpr std::size_t density = 8;
-constexpr std::size_t temperature = 17;
-constexpr std::size_t stationValue = 19;
-constexpr std::size_t count = 20;
-} // namespace MainColumn
-
-namespace PressureColumn {
-constexpr std::size_t pressure = 2;
-constexpr std::size_t count = 3;
-} // namespace PressureColumn
 
 constexpr double depthTolerance = 1e-9; // relative
 
@@ -103,32 +84,23 @@ const T& At(const std::vector<T>& values, int index) {
     return values[static_cast<std::size_t>(index)];
 }
 
-bool HasQuotesOfRow(std::string_view line) {
-    std::size_t quotes = 0;
-    for (std::size_t quote = line.find('"');
-         quote != std::string_view::npos && quotes <= quotesOfRow;
-         quote = line.find('"', quote + 1)) {
-        ++quotes;
-    }
-    return quotes == quotesOfRow;
+std::string PressureFileOf(std::string fileName) {
+    fileName.resize(fileName.size() - std::min(fileName.size(), lengthOfFileKind));
+    return fileName + pressureFileKind;
 }
 
-std::string_view WithoutFirst(std::string_view text) {
-    return text.substr(std::min<std::size_t>(1, text.size()));
-}
-
-// The rows that are long enough, and their places.
+// The rows that are long enough, by their indices, and their places.
 struct UsableRows {
     std::vector<WellDepth> places;
-    std::vector<const std::vector<double>*> rows;
+    std::vector<std::size_t> indices;
 };
 
-UsableRows RowsWithColumns(const Data& data, std::size_t columns) {
+UsableRows UsableRowsOf(const Data& data, const Impl::IO::DfaFile& file) {
     UsableRows usable;
     for (std::size_t i = 0; i < data.rows.size(); ++i) {
-        if (data.rows[i].size() >= columns) {
-            usable.places.push_back({data.wellNames[i], data.rows[i][depthColumn]});
-            usable.rows.push_back(&data.rows[i]);
+        if (data.rows[i].size() >= file.columns) {
+            usable.places.push_back({data.wellNames[i], data.rows[i][Impl::IO::dfaDepthColumn]});
+            usable.indices.push_back(i);
         }
     }
     return usable;
@@ -139,7 +111,7 @@ void AppendStation(WellData& well, const std::vector<double>& row, double pressu
     well.temperatures.push_back(row[MainColumn::temperature]);
     well.densities.push_back(row[MainColumn::density]);
     well.gasOilRatios.push_back(row[MainColumn::gasOilRatio]);
-    well.depths.push_back(row[depthColumn]);
+    well.depths.push_back(row[Impl::IO::dfaDepthColumn]);
     well.stationValues.push_back(row[MainColumn::stationValue]);
     std::vector<double>& fractions = well.compositions.emplace_back(std::size(componentGroups));
     for (std::size_t i = 0; i < fractions.size(); ++i) {
@@ -157,25 +129,80 @@ void PutInOrder(std::vector<T>& values, const std::vector<int>& order) {
     values = std::move(ordered);
 }
 
+// Wells grow as if they were added one by one, so that many imports take no longer each.
+void Append(std::vector<WellData>& wells, std::vector<WellData>& more) {
+    const std::size_t needed = wells.size() + more.size();
+    if (needed > wells.capacity()) {
+        wells.reserve(std::max(needed, 2 * wells.capacity()));
+    }
+    std::ranges::move(more, std::back_inserter(wells));
+}
+
+// `matches` as `LastMatches` gave them, and the lines of the main file's rows.
+void TellOfStations(const UsableRows& stations, const std::vector<std::size_t>& matches,
+                    const std::vector<std::uint64_t>& lines, Diagnostics& diagnostics) {
+    std::unordered_set<std::string_view> wells;
+    std::string_view well;
+    for (std::size_t i = 0; i < matches.size(); ++i) {
+        const std::uint64_t line = lines[stations.indices[i]];
+        const std::string_view name = stations.places[i].well;
+        const bool isNext = i == 0 || name != well;
+        well = name;
+        if (isNext && !wells.insert(name).second) {
+            diagnostics.Tell(DfaKinds::wellReturns, line,
+                             "Expected the rows of a well together, found more of the well " +
+                                 Text::Quote(name) +
+                                 " behind another: they make a second well of that name.");
+        }
+        if (matches[i] == noMatch) {
+            diagnostics.Tell(DfaKinds::noPressure, line,
+                             "Expected a row of the FT file with the same well and depth, found "
+                             "none; the pressure is 0.");
+        }
+    }
+    if (matches.empty()) {
+        diagnostics.Tell(DfaKinds::noStation, 0,
+                         "Expected rows behind the header of the main file, found none that is "
+                         "complete.");
+    }
+}
+
 } // namespace
 
 DFAReader::DFAReader() = default;
 DFAReader::DFAReader(const DFAReader&) = default;
 DFAReader::~DFAReader() = default;
-DFAReader& DFAReader::operator=(const DFAReader&) = default;
+
+// Copies all before it changes anything.
+DFAReader& DFAReader::operator=(const DFAReader& other) {
+    DFAReader copy(other);
+    std::swap(mainData, copy.mainData);
+    std::swap(pressureData, copy.pressureData);
+    std::swap(wells, copy.wells);
+    std::swap(indexOfWell, copy.indexOfWell);
+    std::swap(diagnosticSink, copy.diagnosticSink);
+    return *this;
+}
+
+void DFAReader::SetDiagnosticSink(DiagnosticSink sink) {
+    diagnosticSink = std::move(sink);
+}
 
 bool DFAReader::Import(std::string fileName) {
-    mainData = Data();
-    pressureData = Data();
-    if (!ImportData(fileName, mainData)) {
-        return false;
-    }
-    fileName.resize(fileName.size() - std::min(fileName.size(), lengthOfFileKind));
-    fileName += pressureFileKind;
-    if (!ImportData(fileName, pressureData)) {
-        return false;
-    }
-    return ExtractDataOfInterest();
+    const std::string pressuresName = PressureFileOf(fileName);
+    Diagnostics ofMain(diagnosticSink, fileName);
+    Diagnostics ofPressures(diagnosticSink, pressuresName);
+    std::ifstream main = OpenOrTell(fileName, ofMain);
+    std::ifstream pressures = OpenOrTell(pressuresName, ofPressures);
+    return main.is_open() && pressures.is_open() &&
+           ImportData(main, ofMain, pressures, ofPressures);
+}
+
+bool DFAReader::Import(std::istream& main, std::istream& pressures, const std::string& mainName,
+                       const std::string& pressuresName) {
+    Diagnostics ofMain(diagnosticSink, mainName);
+    Diagnostics ofPressures(diagnosticSink, pressuresName);
+    return ImportData(main, ofMain, pressures, ofPressures);
 }
 
 const std::vector<WellData>& DFAReader::GetExtractedData() const {
@@ -186,115 +213,52 @@ void DFAReader::SetIndexOfWell(int index) {
     indexOfWell = index;
 }
 
-bool DFAReader::ImportData(std::string fileName, Data& data) {
-    std::vector<std::string> lines;
-    std::vector<std::string> dataLines;
-    if (!CacheFileContent(std::move(fileName), lines) || !ExtractData(lines, dataLines)) {
-        return false;
+// Builds the wells aside: nothing that may fail comes behind the first change of those that are
+// there.
+bool DFAReader::ImportData(std::istream& main, Diagnostics& ofMain, std::istream& pressures,
+                           Diagnostics& ofPressures) {
+    mainData = Data();
+    pressureData = Data();
+    auto mainRows = ReadDfaExport(main, Impl::IO::mainFile, ofMain);
+    if (mainRows) {
+        mainData = std::move(mainRows->data);
     }
-    ConvertDataToDoubles(dataLines, data);
-    return true;
+    auto pressureRows =
+        mainRows ? ReadDfaExport(pressures, Impl::IO::pressureFile, ofPressures) : std::nullopt;
+    if (pressureRows) {
+        pressureData = std::move(pressureRows->data);
+        std::vector<WellData> found = ExtractDataOfInterest(mainRows->lines, ofMain);
+        SortStations(found);
+        Append(wells, found);
+    }
+    ofMain.Finish();
+    ofPressures.Finish();
+    return pressureRows.has_value();
 }
 
-bool DFAReader::CacheFileContent(std::string fileName, std::vector<std::string>& lines) const {
-    std::ifstream file = OpenForReading(fileName);
-    if (!file.is_open()) {
-        return false;
-    }
-    LineReader reader(file);
-    std::string_view line;
-    while (reader.Next(line)) {
-        // What can be neither a row nor a mark of the header isn't kept: a large file of something
-        // else would take many times its own size.
-        if (HasQuotesOfRow(line) || line.find("HEADER") != std::string_view::npos) {
-            lines.emplace_back(line);
-        }
-    }
-    return !reader.HasFailed();
-}
-
-bool DFAReader::ExtractData(std::vector<std::string>& lines,
-                            std::vector<std::string>& dataLines) const {
-    // Of several lines with the same mark, the last one counts.
-    auto headerBegin = lines.end();
-    auto headerEnd = lines.end();
-    for (auto line = lines.begin(); line != lines.end(); ++line) {
-        if (line->find("BEGIN HEADER") != std::string::npos) {
-            headerBegin = line;
-        }
-        if (line->find("END HEADER") != std::string::npos) {
-            headerEnd = line;
-        }
-    }
-    // A missing begin stands behind any end.
-    if (headerEnd == lines.end() || headerBegin > headerEnd) {
-        return false;
-    }
-    lines.erase(lines.begin(), headerEnd + 1);
-    dataLines = std::move(lines);
-    return true;
-}
-
-void DFAReader::ConvertDataToDoubles(std::vector<std::string>& dataLines, Data& data) {
-    std::string numberText;
-    std::vector<double> numbers;
-    for (const std::string& line : dataLines) {
-        std::vector<std::string> pieces = ExtractSubStrings(line, "\"");
-        if (pieces.size() != piecesOfRow) {
-            continue;
-        }
-        data.wellNames.push_back(std::move(pieces[wellPiece]));
-        data.stationLabels.push_back(std::move(pieces[stationPiece]));
-
-        // The blank behind each quoted text goes; the one that parts the two texts ends the first.
-        numberText = WithoutFirst(pieces[firstNumbersPiece]);
-        numberText += WithoutFirst(pieces[lastNumbersPiece]);
-        // The row ends at two adjacent blanks: what may be a long line of them isn't cut up.
-        numberText.resize(std::min(numberText.find("  "), numberText.size()));
-        numbers.clear();
-        for (const std::string& part : ExtractSubStrings(numberText, " ")) {
-            const auto number = ExtractDecimal(part);
-            if (!number) {
-                break;
-            }
-            numbers.push_back(*number);
-        }
-        data.rows.push_back(numbers);
-    }
-}
-
-std::vector<std::string> DFAReader::ExtractSubStrings(const std::string& text,
-                                                      std::string delimiter) const {
-    std::vector<std::string> pieces;
-    pieces.reserve(1 + static_cast<std::size_t>(std::ranges::count(text, delimiter.front())));
-    std::size_t begin = 0;
-    for (std::size_t end = text.find(delimiter); end != std::string::npos;
-         end = text.find(delimiter, begin)) {
-        pieces.emplace_back(text, begin, end - begin);
-        begin = end + delimiter.size();
-    }
-    pieces.emplace_back(text, begin);
-    return pieces;
-}
-
-bool DFAReader::ExtractDataOfInterest() {
-    const UsableRows stations = RowsWithColumns(mainData, MainColumn::count);
-    const UsableRows readings = RowsWithColumns(pressureData, PressureColumn::count);
+std::vector<WellData> DFAReader::ExtractDataOfInterest(const std::vector<std::uint64_t>& lines,
+                                                       Diagnostics& ofMain) const {
+    const UsableRows stations = UsableRowsOf(mainData, Impl::IO::mainFile);
+    const UsableRows readings = UsableRowsOf(pressureData, Impl::IO::pressureFile);
     const std::vector<std::size_t> matches =
         LastMatches(stations.places, readings.places, depthTolerance);
 
-    const std::size_t numberOfEarlierWells = wells.size();
-    for (std::size_t i = 0; i < stations.rows.size(); ++i) {
+    std::vector<WellData> found;
+    for (std::size_t i = 0; i < matches.size(); ++i) {
         const std::string_view name = stations.places[i].well;
-        if (wells.size() == numberOfEarlierWells || wells.back().name != name) {
-            wells.emplace_back().name = name;
+        if (found.empty() || found.back().name != name) {
+            found.emplace_back().name = name;
         }
         const double pressure =
-            matches[i] == noMatch ? 0.0 : (*readings.rows[matches[i]])[PressureColumn::pressure];
-        AppendStation(wells.back(), *stations.rows[i], pressure);
+            matches[i] == noMatch
+                ? 0.0
+                : pressureData.rows[readings.indices[matches[i]]][PressureColumn::pressure];
+        AppendStation(found.back(), mainData.rows[stations.indices[i]], pressure);
     }
-    SortStations(wells);
-    return true;
+    if (ofMain.AreWanted()) {
+        TellOfStations(stations, matches, lines, ofMain);
+    }
+    return found;
 }
 
 std::vector<int> DFAReader::SortStations(std::vector<double> depths) const {
@@ -310,7 +274,7 @@ std::vector<int> DFAReader::SortStations() const {
     return SortStations(At(wells, indexOfWell).depths);
 }
 
-void DFAReader::SortStations(std::vector<WellData>& records) {
+void DFAReader::SortStations(std::vector<WellData>& records) const {
     for (WellData& well : records) {
         const std::vector<int> order = SortStations(well.depths);
         PutInOrder(well.pressures, order);
