@@ -254,6 +254,21 @@ TEST_F(BlackOil, TextThatTheReaderMeets) {
     }
 }
 
+TEST_F(BlackOil, ReadsTheSaturationPointWhenAskedTo) {
+    const std::string text = "Rsconst,50\npsat,1e7 Pa\nPVTO,\n,1,2,3,4\nPSAT,1,2,3,4\n";
+    for (const bool asked : {false, true}) {
+        Diagnosed told;
+        BlackOilExportFileWriter reader;
+        reader.SetDiagnosticSink(told.Sink());
+        reader.SetReadsSaturationPoint(asked);
+        std::istringstream in(text);
+        const BlackOilTable table = reader.GetTableFromCSVFile(in);
+        EXPECT_EQ(table.GetSaturationPointRs(), asked ? 50.0 : 0.0);
+        EXPECT_EQ(table.GetSaturationPointPressure(), asked ? 1e7 : 0.0);
+        EXPECT_EQ(told.Take().starts_with("2:text-behind-number"), asked);
+    }
+}
+
 TEST_F(BlackOil, TellsOfAFileThatFailsAndOfTwentyOfOneCode) {
     Diagnosed diagnosed;
     writer.SetDiagnosticSink(diagnosed.Sink());

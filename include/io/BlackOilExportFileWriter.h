@@ -74,8 +74,12 @@ public:
     /// Takes what `GetTableFromCSVFile` has to say beside its table ("blackoil..." and "file...").
     void SetDiagnosticSink(DiagnosticSink sink);
 
+    /// From here on `GetTableFromCSVFile` takes the saturation point too, from the lines "RSCONST,"
+    /// and "PSAT," ahead of the tables, or passes over it, as it does at first.
+    void SetReadsSaturationPoint(bool reads);
+
     /// Reads the CSV form of `ExportToFile`. Oil rows become live oil and gas rows wet gas,
-    /// whatever export type wrote them; the saturation point isn't read.
+    /// whatever export type wrote them. The saturation point isn't read unless that was asked for.
     ///
     /// There is no failure: a file that can't be opened gives an empty table, one whose reading
     /// fails the table up to there, what isn't recognised is skipped, and a cell without a number
@@ -86,6 +90,7 @@ public:
 
 private:
     bool highPrecision;
+    bool readsSaturationPoint = false;
     DiagnosticSink diagnosticSink;
 };
 

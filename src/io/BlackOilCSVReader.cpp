@@ -294,18 +294,23 @@ void Watch::EndFile() {
 
 class CsvReader {
 public:
-    CsvReader(std::istream& in, Diagnostics& diagnostics)
-        : lines_(in), diagnostics_(diagnostics), watch_(diagnostics, lines_) {}
+    CsvReader(std::istream& in, Diagnostics& diagnostics, bool readsSaturationPoint)
+        : lines_(in),
+          diagnostics_(diagnostics),
+          watch_(diagnostics, lines_),
+          readsSaturationPoint_(readsSaturationPoint) {}
 
     BlackOilTable Read();
 
 private:
     void ReadLine(std::string_view line, BlackOilTable& table);
+    void ReadSaturationPoint(std::string_view key, std::string_view value, BlackOilTable& table);
     BlackOilDataRecords ReadTable(TableKind kind);
 
     LineReader lines_;
     Diagnostics& diagnostics_;
     Watch watch_;
+    bool readsSaturationPoint_;
 };
 
 BlackOilTable CsvReader::Read() {
@@ -346,11 +351,28 @@ void CsvReader::ReadLine(std::string_view line, BlackOilTable& table) {
             watch_.Density(density.name, value);
         }
     }
+    if (readsSaturationPoint_) {
+        ReadSaturationPoint(key, value, table);
+    }
     if (IsKey(key, oilLayout.heading)) {
         table.SetLiveOilData(ReadTable(TableKind::Oil));
     } else if (IsKey(key, gasLayout.heading)) {
         table.SetWetGasData(ReadTable(TableKind::Gas));
     }
+}
+
+void CsvReader::ReadSaturationPoint(std::string_view key, std::string_view value,
+                                    BlackOilTable& table) {
+    const bool isRatio = IsKey(key, "rsconst");
+    if (!isRatio && !IsKey(key, "psat")) {
+        return;
+    }
+    const double number = ParseAsAtof(value); // the pressure is in Pa, unlike those of the rows
+    table.SetSaturationPoint(isRatio ? number : table.GetSaturationPointRs(),
+                             isRatio ? table.GetSaturationPointPressure() : number);
+    TellCell(diagnostics_, cellKinds, lines_.Number(),
+             isRatio ? "ratio of the saturation point" : "pressure of the saturation point", value,
+             countsAsZero);
 }
 
 BlackOilDataRecords CsvReader::ReadTable(TableKind kind) {
@@ -391,12 +413,16 @@ void BlackOilExportFileWriter::SetDiagnosticSink(DiagnosticSink sink) {
     diagnosticSink = std::move(sink);
 }
 
+void BlackOilExportFileWriter::SetReadsSaturationPoint(bool reads) {
+    readsSaturationPoint = reads;
+}
+
 BlackOilTable BlackOilExportFileWriter::GetTableFromCSVFile(const std::string& fileName) const {
     Diagnostics diagnostics(diagnosticSink, fileName);
     std::ifstream file = OpenOrTell(fileName, diagnostics);
     BlackOilTable table;
     if (file.is_open()) {
-        table = CsvReader(file, diagnostics).Read();
+        table = CsvReader(file, diagnostics, readsSaturationPoint).Read();
     }
     diagnostics.Finish();
     return table;
@@ -405,7 +431,7 @@ BlackOilTable BlackOilExportFileWriter::GetTableFromCSVFile(const std::string& f
 BlackOilTable BlackOilExportFileWriter::GetTableFromCSVFile(std::istream& in,
                                                             const std::string& name) const {
     Diagnostics diagnostics(diagnosticSink, name);
-    BlackOilTable table = CsvReader(in, diagnostics).Read();
+    BlackOilTable table = CsvReader(in, diagnostics, readsSaturationPoint).Read();
     diagnostics.Finish();
     return table;
 }
