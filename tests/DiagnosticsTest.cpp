@@ -27,7 +27,7 @@ TEST(Diagnostics, EveryCodeIsOnThePageAndEveryCodeOfThePageExists) {
     const auto onPage = Find(ReadFile(folder + "/docs/diagnostics.md"),
                              R"(\| `([a-z]+\.[a-z0-9-]+)` \| (note|warning|error) \|)");
     CodesAndSeverities inSources;
-    for (const char* const table : {"/src/common/DiagnosticKinds.h"}) {
+    for (const char* const table : {"/src/common/DiagnosticKinds.h", "/tools/views/ToolKinds.h"}) {
         inSources.merge(
             Find(ReadFile(folder + table),
                  R"lit(\{"([a-z]+\.[a-z0-9-]+)",\s*(?:\w+::)*(Note|Warning|Error))lit"));

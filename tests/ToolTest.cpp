@@ -1,10 +1,11 @@
 // The command-line program as a user runs it: exit status, output and messages.
 #include "TestSupport.h"
 
+#include <sys/resource.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cstdlib>
-#include <sstream>
 
 using namespace FluidBenchTest;
 
@@ -16,159 +17,318 @@ struct Outcome {
     std::string messages;
 };
 
-class ToolTest : public testing::Test {
-protected:
-    // Runs the program in the test's folder. "@" in the arguments stands for the sample files.
-    Outcome Tool(std::string arguments) {
-        for (std::size_t at = arguments.find('@'); at != std::string::npos;
-             at = arguments.find('@')) {
-            arguments.replace(at, 1, FLUIDBENCH_EXAMPLE_DATA "/");
-        }
-        const std::string command = "cd '" + folder.Path().string() +
-                                    "' && '" FLUIDBENCH_TOOL "' " + arguments +
-                                    " > output 2> messages < /dev/null";
-        const int status = std::system(command.c_str());
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ReadFile(folder / "output"),
-                ReadFile(folder / "messages")};
+std::string Replaced(std::string text, const std::string& what, const std::string& by) {
+    for (std::size_t at = text.find(what); at != std::string::npos;
+         at = text.find(what, at + by.size())) {
+        text.replace(at, what.size(), by);
     }
-
-    TemporaryFolder folder;
-};
+    return text;
+}
 
 bool Contains(const std::string& text, const std::string& part) {
     return text.find(part) != std::string::npos;
 }
 
+class ToolTest : public testing::Test {
+protected:
+    // Runs a line of the shell in the test's folder. "TOOL" in it stands for the program and "@"
+    // for the folder of the sample files, also in what comes out.
+    Outcome Shell(std::string line) {
+        const std::string samples = FLUIDBENCH_EXAMPLE_DATA "/";
+        line = Replaced(Replaced(line, "TOOL", "'" FLUIDBENCH_TOOL "'"), "@", samples);
+        const std::string command = "cd '" + folder.Path().string() + "' && { " + line +
+                                    "; } > .output 2> .messages < /dev/null";
+        const int status = std::system(command.c_str());
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1,
+                Replaced(ReadFile(folder / ".output"), samples, "@"),
+                Replaced(ReadFile(folder / ".messages"), samples, "@")};
+    }
+
+    Outcome Tool(const std::string& arguments) { return Shell("TOOL " + arguments); }
+
+    // What isn't hidden, and so not this class's own.
+    std::string FilesOf(const std::string& subfolder = ".") {
+        return Shell("ls -A " + subfolder + " | grep -vx '\\.output\\|\\.messages'").output;
+    }
+
+    TemporaryFolder folder;
+};
+
+constexpr const char* blackOil =
+    "ODEN,800\nGDEN,1\nRSCONST,50\nPSAT,1e7\n\n"
+    "Units, METRIC\nPVTO, Rs, PSAT, Bo, Muo\n"
+    "\t,50,100,1.2,0.5\n\t,50,150,1.18,0.55\n\n"
+    "Units, METRIC\nPVTG, PSAT, Rv, Bg, Mug\n\t,150,0.0001,0.01,0.02\n";
+
+struct Case {
+    const char* arguments;
+    int status;
+    std::string output;
+    std::string messages;
+};
+
 } // namespace
 
-TEST_F(ToolTest, EndsWithTheStatusOfWhatHappened) {
-    folder.Write("bad.dat", "CNAMES\nC1 C2 /\nMW\n16 /\n");
-    folder.Write("good.dat", "CNAMES\nC1 C2 /\n--Units: K\nTCRIT\n100 200 /\n");
-    folder.Write("unknown.dat", "CNAMES\nC1 /\nSWFN\n1 2 3 /\n");
-    folder.Write("short.csv", "Flash\n\n\n\nBubble\nT,P,\n1");
-    folder.Write("no-end.csv", "Flash\n\n\n\nBubble,1\nT,P,\n");
-    folder.Write("long.csv", "Flash\n\n\n\nBubble" + std::string(500, ' ') + "\nT,P,\n");
-    std::string shortHeadings = "Bubble,";
-    for (int i = 0; i < 60; ++i) {
-        shortHeadings += "1,"; // and "Vapour,1," once it is written
+TEST_F(ToolTest, TellsWhatIsWrongWithACommandLine) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"", "A format or a command is missing."},
+        {"nonsense", "There is no format or command 'nonsense'."},
+        {"'a\x1b[31m'", "There is no format or command 'a\\x1b[31m'."},
+        {"help nonsense", "There is no format or command 'nonsense'."},
+        {"help deck show more", "There is no help on 'more'."},
+        {"deck", "A verb is missing."},
+        {"deck draw", "There is no command 'deck draw'."},
+        {"deck show", "IN is missing."},
+        {"deck show ''", "A file name is empty."},
+        {"deck show a b", "There is no place for 'b'."},
+        {"deck show a --units field", "There is no option '--units'."},
+        {"deck show -x a", "There is no option '-x'."},
+        {"deck show a --json=yes", "--json takes no value."},
+        {"deck show a --json --json", "--json is given twice."},
+        {"deck show a --json --csv", "--json and --csv don't go together."},
+        {"deck show a --from-units", "--from-units needs a value: auto|metric|field."},
+        {"deck show a --from-units=lab", "--from-units takes auto|metric|field, not 'lab'."},
+        {"deck convert a", "OUT is missing."},
+        {"deck convert a b --temperature 160",
+         "--temperature takes degrees with their unit, such as 160F, 71.1C or 344.3K, not '160'."},
+        {"deck diff a b --tolerance -1", "--tolerance takes a number of zero or more, not '-1'."},
+        {"blackoil convert @reservoir-black-oil.csv b --region 0",
+         "--region takes a whole number from 1 on, not '0'."},
+        {"envelope plot a b.png",
+         "The picture is an SVG file: its name has to end in .svg, unlike 'b.png'."},
+        {"check", "FILE... is missing."},
+        {"check a --format pdf", "--format takes"},
+        {"blackoil diff - -", "The standard input can be read only once."},
+    };
+    for (const auto& [arguments, message] : cases) {
+        const Outcome run = Tool(arguments);
+        EXPECT_EQ(run.status, 2) << arguments;
+        EXPECT_EQ(run.output, "") << arguments;
+        EXPECT_TRUE(run.messages.starts_with(std::string("fluidbench-io: error: ") + message))
+            << arguments << '\n'
+            << run.messages;
+        EXPECT_TRUE(Contains(run.messages, "Run 'fluidbench-io help")) << arguments;
     }
-    folder.Write("terse.csv", "Flash\n\n\n\n" + shortHeadings + "\nT,P,\n");
-    folder.Write("other.csv", "Flash\n\nUnits: X(fraction), P(Pa)\n\nBubble,PX2,1,\nX,P,\n");
-    struct Case {
+    EXPECT_EQ(FilesOf(), "");
+    for (const char* const arguments :
+         {"help", "--help", "-h", "help deck", "deck --help", "help deck show", "deck show --help",
+          "deck show a b --x -h", "--version"}) {
+        const Outcome run = Tool(arguments);
+        EXPECT_EQ(run.status, 0) << arguments;
+        EXPECT_TRUE(Contains(run.output, "fluidbench-io") || Contains(run.output, "deck show"));
+        EXPECT_EQ(run.messages, "") << arguments;
+    }
+}
+
+// The inputs and outputs are under tests/data/tool; the numbers are checked by hand.
+TEST_F(ToolTest, ShowsConvertsAndCompares) {
+    struct Golden {
         const char* arguments;
         int status;
-        const char* output;
-        const char* message;
+        const char* output; // a file's name
+    };
+    const Golden cases[] = {
+        {"blackoil show oil.csv --show-units field", 0, "blackoil-show-field.txt"},
+        {"blackoil show oil.csv --csv", 0, "blackoil-show.csv"},
+        {"blackoil show oil.csv --json --show-units field", 0, "blackoil-show.json"},
+        {"blackoil convert oil.csv - --tables dead-dry --to-units field", 0,
+         "blackoil-convert-dead-dry-field.txt"},
+        {"blackoil diff oil.csv oil2.csv", 1, "blackoil-diff.txt"},
+        {"blackoil diff oil.csv oil2.csv --json", 1, "blackoil-diff.json"},
+        {"blackoil diff oil.csv oil2.csv --tolerance 0.02", 0, "nothing"},
+        {"envelope show envelope.csv", 0, "envelope-show.txt"},
+        {"envelope show envelope.csv --csv --show-units=field", 0, "envelope-show-field.csv"},
+        {"envelope show envelope.csv --json", 0, "envelope-show.json"},
+        {"envelope convert --to comma -- envelope.csv -", 0, "envelope-convert.csv"},
+        {"deck show deck.dat", 0, "deck-show.txt"},
+        {"deck show deck.dat --csv", 0, "deck-show.csv"},
+        {"deck show deck.dat --json", 0, "deck-show.json"},
+        {"deck diff deck.dat deck2.dat", 1, "deck-diff.txt"},
+        {"deck diff deck.dat deck2.dat --json", 1, "deck-diff.json"},
+        {"deck diff deck.dat deck.dat --tolerance 0", 0, "nothing"},
+        {"dfa show w_DFA.txt", 0, "dfa-show.txt"},
+        {"dfa show - --json --ft w_FT.txt < w_DFA.txt", 0, "dfa-show.json"},
+        {"dfa convert w_DFA.txt -", 0, "dfa-convert.csv"},
+    };
+    folder.Write("nothing", "");
+    ASSERT_EQ(Shell("cp '" + DataPath("tool") + "'/* .").status, 0);
+    for (const Golden& c : cases) {
+        const Outcome run = Tool(c.arguments);
+        EXPECT_EQ(run.status, c.status) << c.arguments;
+        EXPECT_EQ(run.output, ReadFile(folder / c.output)) << c.arguments;
+        EXPECT_EQ(run.messages, "") << c.arguments;
+    }
+}
+
+TEST_F(ToolTest, ReadsWhatThereIsAndTellsWhatIsNone) {
+    folder.Write("good.csv", blackOil);
+    std::filesystem::create_directory(folder / "folder");
+    ASSERT_EQ(Shell("mkfifo pipe; ln -s good.csv link; ln -s none dangling; cp @reservoir-oil-* .")
+                  .status,
+              0);
+    const auto cantRead = [](const std::string& name, const std::string& found) {
+        return name + ": error: Expected a file to read, found " + found + ". [tool.cant-read]\n";
     };
     const Case cases[] = {
-        {"--help", 0, "deck", ""},
-        {"", 2, "", "A subcommand is required"},
-        {"nonsense", 2, "", "--help"},
-        {"deck show --help", 0, "--units", ""},
-        {"deck show", 2, "", "FILE"},
-        {"deck show good.dat --units lab", 2, "", "lab"},
-        {"deck show good.dat", 0, "metric, from its text", ""},
-        {"deck show good.dat --units field", 0, "Tc R\nC1                     0   100\n", ""},
-        {"deck show good.dat --show-in field", 0, "Tc R\nC1                     0   180\n", ""},
-        {"deck show unknown.dat --verbose", 0, "C1", "keyword 'SWFN' is passed over"},
-        {"deck show bad.dat", 1, "",
-         "bad.dat, line 4, keyword MW: expected as many numbers as components (2), found '/' "
-         "behind 1 of them.\nerror: The deck could not be interpreted"},
-        {"deck show missing.dat", 1, "", "File 'missing.dat' could not be found."},
-        {"deck convert good.dat", 2, "", "OUT"},
-        {"deck convert good.dat out.dat", 2, "", "--to"},
-        {"deck convert good.dat out.dat --to field --temperature 160", 2, "", "160F"},
-        {"deck convert good.dat none/out.dat --to field", 1, "", "none/out.dat"},
-        {"deck convert bad.dat out2.dat --to field", 1, "", "keyword MW"},
-        {"deck convert good.dat out.dat --to field", 0, "", "--temperature"},
-        {"blackoil show @reservoir-black-oil.csv", 0, "oil density", ""},
-        {"blackoil show missing.csv", 1, "", "missing.csv"},
-        {"blackoil convert @reservoir-black-oil.csv out.txt --tables all", 2, "", "all"},
-        {"blackoil convert @reservoir-black-oil.csv none/out.txt", 1, "", "none/out.txt"},
-        {"dfa show @north-field_DFA.txt", 0, "Well", ""},
-        {"dfa show missing.txt", 1, "", "missing.txt"},
-        {"mfl show @six-component-oil.mfl", 0, "C1", ""},
-        {"mfl show missing.mfl", 1, "", "missing.mfl"},
-        {"envelope show @rich-gas-envelope.csv", 0, "Vapour fraction        0.95      88", ""},
-        {"envelope show @rich-gas-envelope.csv --units field", 0, "72.9608             2969.53",
-         ""},
-        {"envelope show missing.csv", 1, "", "Could not open file"},
-        {"envelope show bad.dat", 1, "", "no phase envelope file"},
-        {"envelope show short.csv", 0, "", "Error in column 0"},
-        {"envelope show long.csv", 1, "", "has a line of more than 499 characters"},
-        {"envelope convert terse.csv out.txt --separator tab", 0, "",
-         "'out.txt' has a line of more than 499 characters"},
-        {"envelope show no-end.csv", 1, "", "A number in a heading line has no separator"},
-        {"envelope show other.csv", 0, "", "PX or TX lines, which can't be read"},
-        {"envelope show other.csv", 0, "", "states units other than T(K), P(Pa)"},
-        {"envelope convert @rich-gas-envelope.csv out.txt", 2, "", "--separator"},
-        {"envelope convert @rich-gas-envelope.csv none/out.txt --separator tab", 1, "", "none/out"},
-        {"envelope plot @rich-gas-envelope.csv none/out.svg", 1, "", "none/out.svg"},
+        {"check good.csv", 0, "good.csv: blackoil, good\n", ""},
+        {"check link - < good.csv", 0, "link: blackoil, good\n<stdin>: blackoil, good\n", ""},
+        {"check none good.csv", 1, "none: 1 error, 0 warnings\ngood.csv: blackoil, good\n",
+         cantRead("none", "no file of that name")},
+        {"check dangling", 1, "dangling: 1 error, 0 warnings\n",
+         cantRead("dangling", "no file of that name")},
+        {"check folder", 1, "folder: 1 error, 0 warnings\n", cantRead("folder", "a folder")},
+        {"check pipe", 1, "pipe: 1 error, 0 warnings\n",
+         cantRead("pipe", "a pipe; a pipe is read as the standard input, with - for a name")},
+        {"check /dev/zero", 1, "/dev/zero: 1 error, 0 warnings\n",
+         cantRead("/dev/zero", "a device")},
+        {"check /dev/null", 1, "/dev/null: 1 error, 0 warnings\n",
+         cantRead("/dev/null", "a device")},
+        {"check - < folder", 1, "-: 1 error, 0 warnings\n",
+         "<stdin>: error: Expected text, found that it can't be read (Is a directory). "
+         "[tool.cant-read]\n"},
+        {"check - <&-", 1, "-: 1 error, 0 warnings\n",
+         "<stdin>: error: Expected text, found that it can't be read (Bad file descriptor). "
+         "[tool.cant-read]\n"},
     };
     for (const Case& c : cases) {
         const Outcome run = Tool(c.arguments);
-        EXPECT_EQ(run.status, c.status) << c.arguments << '\n' << run.messages;
-        EXPECT_TRUE(Contains(run.output, c.output)) << c.arguments << '\n' << run.output;
-        EXPECT_TRUE(Contains(run.messages, c.message)) << c.arguments << '\n' << run.messages;
-        EXPECT_TRUE(run.status == 0 || !run.messages.empty()) << c.arguments;
+        EXPECT_EQ(run.status, c.status) << c.arguments;
+        EXPECT_EQ(run.output, c.output) << c.arguments;
+        EXPECT_EQ(run.messages, c.messages) << c.arguments;
     }
-    EXPECT_FALSE(std::filesystem::exists(folder / "out2.dat"));
+    // A pipe is read once, and gives all that a file does.
+    EXPECT_EQ(Shell("cat good.csv | TOOL blackoil convert - -").output,
+              Tool("blackoil convert good.csv -").output);
+    EXPECT_EQ(Shell("cat *.dat | TOOL deck show - --json").output,
+              Tool("deck show reservoir-oil-field.dat --json").output);
+    EXPECT_EQ(FilesOf(), "dangling\nfolder\ngood.csv\nlink\npipe\nreservoir-oil-field.dat\n"
+                         "reservoir-oil-grid.inc\n");
 }
 
-TEST_F(ToolTest, ConvertsADeckThereAndBack) {
-    ASSERT_EQ(Tool("deck convert @reservoir-oil-field.dat metric.dat --to metric --runspec "
-                   "--temperature 344.26K")
+TEST_F(ToolTest, LeavesTheOldFileUntilTheNewOneIsWhole) {
+    folder.Write("in.csv", blackOil);
+    const std::string converted = Tool("blackoil convert in.csv - --to csv").output;
+    ASSERT_TRUE(converted.ends_with("FILEUNIT\nMETRIC\n/\n"));
+    std::filesystem::create_directory(folder / "far");
+    ASSERT_EQ(Shell("chmod 640 in.csv; cp -p in.csv same; cp in.csv far/target; "
+                    "ln -s far/target link; ln -s far/new dangling; ln in.csv hard")
                   .status,
               0);
-    const std::string metric = ReadFile(folder / "metric.dat");
-    EXPECT_TRUE(metric.starts_with("RUNSPEC\n--\nCOMPS\n--\n6\n"));
-    EXPECT_TRUE(Contains(metric, "RTEMP\n--\n71.11\n"));
-    // From here on the values that were missing are zeros.
-    ASSERT_EQ(
-        Tool("deck convert metric.dat zeros.dat --to metric --runspec --temperature 71.11C").status,
-        0);
-    ASSERT_EQ(Tool("deck convert metric.dat field.dat --to field --temperature '160 F'").status, 0);
-    ASSERT_EQ(
-        Tool("deck convert field.dat again.dat --to metric --runspec --temperature 71.11C").status,
-        0);
-    EXPECT_EQ(ReadFile(folder / "again.dat"), ReadFile(folder / "zeros.dat"));
-    EXPECT_TRUE(Contains(ReadFile(folder / "field.dat"), "RTEMP\n--\n160\n"));
+    // What comes where an output is new, the input itself, or leads elsewhere.
+    for (const char* const arguments : {"in.csv new", "same same", "link link", "far/target link",
+                                        "in.csv dangling", "hard hard"}) {
+        const Outcome run = Tool(std::string("blackoil convert --to csv ") + arguments);
+        EXPECT_EQ(run.status, 0) << arguments << run.messages;
+        EXPECT_EQ(run.output + run.messages, "") << arguments;
+    }
+    for (const char* const name : {"new", "same", "far/target", "far/new", "hard"}) {
+        EXPECT_EQ(ReadFile(folder / name), converted) << name;
+    }
+    EXPECT_EQ(ReadFile(folder / "in.csv"), blackOil) << "another name of the same file";
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
+    EXPECT_EQ(Shell("stat -c %a same").output, "640\n");
+    EXPECT_EQ(FilesOf(), "dangling\nfar\nhard\nin.csv\nlink\nnew\nsame\n");
+
+    const std::pair<const char*, const char*> failures[] = {
+        {"TOOL blackoil convert in.csv /dev/full",
+         "/dev/full: error: Expected a file to write, found that it can't be written (No space "
+         "left on device). [tool.cant-write]\n"},
+        {"TOOL blackoil convert in.csv far",
+         "far: error: Expected a file to write, found a folder. [tool.cant-write]\n"},
+        {"TOOL blackoil convert in.csv none/out",
+         "none/out: error: Expected a file to write, found that none can be made in its folder (No "
+         "such file or directory). [tool.cant-write]\n"},
+        {"ulimit -f 1; TOOL envelope convert @rich-gas-envelope.csv same",
+         "same: error: Expected a file to write, found that it can't be written whole (File too "
+         "large); the old file stands. [tool.cant-write]\n"},
+        {"TOOL blackoil convert in.csv - > /dev/full",
+         "fluidbench-io: error: The standard output can't be written (No space left on device). "
+         "[tool.cant-write]\n"},
+        {"TOOL blackoil convert in.csv - >&-",
+         "fluidbench-io: error: The standard output can't be written (Bad file descriptor). "
+         "[tool.cant-write]\n"},
+        {"cp @rich-gas-envelope.csv far/a.svg; ln -s a.svg far/b.svg; "
+         "TOOL envelope plot far/a.svg far/b.svg",
+         "far/b.svg: error: Expected another file than the one that is read, found the same. "
+         "[tool.cant-write]\n"},
+    };
+    for (const auto& [line, message] : failures) {
+        const Outcome run = Shell(line);
+        EXPECT_EQ(run.status, 1) << line;
+        EXPECT_EQ(run.messages.substr(0, std::string(message).size()), message);
+    }
+    EXPECT_EQ(ReadFile(folder / "same"), converted);
+    EXPECT_EQ(FilesOf(), "dangling\nfar\nhard\nin.csv\nlink\nnew\nsame\n") << "no part is left";
+
+    // Nobody reads on: no words, and no success.
+    const Outcome head =
+        Shell("for i in 1 2 3 4 5 6 7 8 9; do cat @rich-gas-envelope.csv; done > "
+              "long; { TOOL envelope show long --csv; echo $? > status; } | head -1");
+    EXPECT_EQ(head.output, "plot,line,fraction,temperature \u00B0C,pressure bar\n");
+    EXPECT_EQ(head.messages, "");
+    EXPECT_EQ(ReadFile(folder / "status"), "1\n");
 }
 
-TEST_F(ToolTest, RewritesAPhaseEnvelopeWithTheOtherSeparator) {
-    const std::string sample = "@separator-train-envelopes.txt";
-    ASSERT_EQ(Tool("envelope convert " + sample + " comma.csv --separator comma").status, 0);
-    ASSERT_EQ(Tool("envelope convert comma.csv again.txt --separator tab").status, 0);
-    EXPECT_EQ(ReadFile(folder / "again.txt"),
-              ReadFile(FLUIDBENCH_EXAMPLE_DATA "/separator-train-envelopes.txt"));
+TEST_F(ToolTest, KeepsItsInputWhenItIsKilledWhileItReplacesIt) {
+    std::string text = "PVTO,\n";
+    for (int i = 1; i <= 60'000; ++i) {
+        text += ",1," + std::to_string(i) + ",1.1,0.5\n";
+    }
+    folder.Write("in.csv", text);
+    ASSERT_EQ(Tool("blackoil convert in.csv whole.csv").status, 0);
+    const std::string whole = ReadFile(folder / "whole.csv");
+    int replaced = 0;
+    for (int i = 0; i < 30; ++i) {
+        folder.Write("victim.csv", text);
+        Shell("TOOL blackoil convert victim.csv victim.csv & sleep 0.0" + std::to_string(i + 10) +
+              "; kill -9 $!; wait");
+        const std::string left = ReadFile(folder / "victim.csv");
+        ASSERT_TRUE(left == text || left == whole) << i << ": " << left.size();
+        replaced += left == whole ? 1 : 0;
+    }
+    RecordProperty("replaced", replaced);
 }
 
-TEST_F(ToolTest, DrawsAPictureOfEachPlotWithinItsFrame) {
-    const std::string block = "Flash\n\n\n\nBubble,,Dew,,Critical point,,\nT,P,T,P,T,P,\n";
-    std::string rows = "200,1e5,1e999,1,300,2e7,\n,,1e300,-1e999,,,\n,,250,1e6,,,\n,,250,1e6,,,\n";
-    for (int i = 0; i < 50'000; ++i) {
-        rows += std::to_string(200 + i * 2e-3) + ',' + std::to_string(1e5 + i * 4e2) + ",,,,,\n";
-    }
-    folder.Write("a&b\x01\xFF<.csv", block + rows + "\n" + block);
-    ASSERT_EQ(Tool("envelope plot a* picture.v1.svg").output, "picture.v1.svg\npicture.v1-2.svg\n");
-    const std::string first = ReadFile(folder / "picture.v1.svg");
-    EXPECT_TRUE(Contains(first, ">a&amp;b\uFFFD\uFFFD&lt;.csv, plot 1 of 2</text>"));
-    EXPECT_TRUE(Contains(first, ">\u221260</text>")) << "a tick at -60 degrees C";
-    EXPECT_TRUE(Contains(first, ">26.85 \u00B0C, 200 bar</text>")) << "the critical point";
-    EXPECT_TRUE(Contains(first, "r=\"3.5\" fill=\"#c8461e\"")) << "a dew line of one place";
-    EXPECT_LT(first.size(), 50'000U) << "only what can be seen is drawn";
-    EXPECT_TRUE(Contains(ReadFile(folder / "picture.v1-2.svg"), ">No points</text>"));
+TEST_F(ToolTest, ShowsNothingThatATerminalWouldObey) {
+    const std::string evil = "\x1b[2J\x9b\xc2\x9b\xe2\x80\xae\xf0\x9f\x9b\xa2";
+    const std::string shown = "\\x1b[2J\\x9b\\u009b\\u202e\xf0\x9f\x9b\xa2";
+    folder.Write(evil + ".dat", "CNAMES\n'" + evil + "' C2 /\nMW\n16 30 /\nTCRIT\n1 /\n");
+    folder.Write("good.dat", "CNAMES\n'" + evil + "' C2 /\n-- Units: K\nTCRIT\n100 200 /\n");
+    const Outcome bad = Tool("deck show *2J*.dat");
+    EXPECT_TRUE(Contains(bad.messages, shown + ".dat: error: ")) << bad.messages;
+    EXPECT_TRUE(Contains(Tool("deck show good.dat").output, "\n" + shown + " "));
+    EXPECT_TRUE(Contains(Tool("deck show good.dat --json").output,
+                         R"("name": "\u001b[2J\ufffd\u009b\u202e\ud83d\udee2")"));
+    // A file's text as it is goes to files and pipes, and escaped to a terminal.
+    EXPECT_TRUE(Contains(Tool("deck convert good.dat -").output, evil));
+    const Outcome terminal = Shell("script -qec \"TOOL deck convert good.dat -\" typescript");
+    EXPECT_TRUE(Contains(terminal.output, shown)) << terminal.output;
+    EXPECT_FALSE(Contains(terminal.output, "\x1b[2J"));
+}
 
-    std::size_t places = 0;
-    for (std::size_t at = first.find(" points=\""); at != std::string::npos;
-         at = first.find(" points=\"", at + 1)) {
-        const std::size_t begin = at + std::string(" points=\"").size();
-        std::istringstream points(first.substr(begin, first.find('"', begin) - begin));
-        char comma = ' ';
-        for (double x = 0.0, y = 0.0; points >> x >> comma >> y; ++places) {
-            EXPECT_TRUE(x >= 88 && x <= 712 && y >= 76 && y <= 526) << x << ' ' << y;
-        }
-        EXPECT_TRUE(points.eof()) << "no other text among the places";
+TEST_F(ToolTest, TellsWhoeverWaitsAtATerminalThatWorkGoesOn) {
+    folder.Write("in.csv", blackOil);
+    const std::string slow = "(cat in.csv; sleep 2.5) | TOOL check -";
+    EXPECT_EQ(Shell(slow).messages, "");
+    EXPECT_EQ(Shell("script -qec \"" + slow + "\" typescript").output,
+              "Reading <stdin> ... 2 s\r\x1b[K<stdin>: blackoil, good\r\n");
+}
+
+TEST_F(ToolTest, ShowsHeadAndTailOfALongTableInLittleMemory) {
+    std::string text = "PVTO,\n";
+    for (int i = 1; i <= 200'000; ++i) {
+        text += "\t,120.00000000," + std::to_string(i) + ".25000000,1.12800000,0.76000000\n";
     }
-    EXPECT_GT(places, 500U);
+    folder.Write("long.csv", text);
+    const Outcome run = Tool("blackoil show long.csv");
+    rusage usage{};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    EXPECT_EQ(run.messages.find("error"), std::string::npos);
+    EXPECT_TRUE(Contains(run.output, "\n                120         20.25      1.128"
+                                     "          0.76\n"
+                                     "  ... 199970 more rows, which --all shows ...\n"))
+        << run.output;
+    EXPECT_EQ(std::ranges::count(run.output, '\n'), 40);
+    EXPECT_LT(static_cast<std::size_t>(usage.ru_maxrss) * 1024, 4 * text.size());
+    EXPECT_EQ(Shell("TOOL blackoil show long.csv --all | wc -l").output, "200009\n");
 }

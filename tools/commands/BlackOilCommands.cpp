@@ -1,0 +1,419 @@
+// fluidbench-io blackoil: shows black-oil tables, converts and compares them.
+#include "BlackOilView.h"
+#include "Commands.h"
+#include "Comparison.h"
+#include "FluidBench/Common/Units.h"
+#include "FluidBench/Model/BlackOilTable.h"
+#include "FormatFinder.h"
+#include "Progress.h"
+#include "io/BlackOilExportFileWriter.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace FluidBenchTool {
+
+using Orv::FluidBench::Common::Units;
+using Orv::FluidBench::IO::BlackOilExportFileWriter;
+using Orv::FluidBench::Model::BlackOilDataRecords;
+using Orv::FluidBench::Model::BlackOilTable;
+
+namespace {
+
+using Writer = BlackOilExportFileWriter;
+
+constexpr Option tables{
+    "--tables", "auto|live-wet|live-dry|dead-wet|dead-dry",
+    "Tables to write: live oil as PVTO or dead oil as PVDO, wet gas as PVTG or dry gas as PVDG. "
+    "auto, unless given: those of the file. All rows go into these tables"};
+
+constexpr std::pair<std::string_view, Writer::EXPORT_TYPE> tableChoices[] = {
+    {"live-wet", Writer::LIVE_OIL_WET_GAS},
+    {"live-dry", Writer::LIVE_OIL_DRY_GAS},
+    {"dead-wet", Writer::DEAD_OIL_WET_GAS},
+    {"dead-dry", Writer::DEAD_OIL_DRY_GAS}};
+
+struct BlackOilFile {
+    std::vector<BlackOilTable> regions;
+    bool hasKeywords = false;
+};
+
+BlackOilFile ReadTables(Input& input, Call& call) {
+    Messages& messages = call.Told();
+    const Progress progress(messages, "Reading " + input.Name());
+    const std::uint64_t errors = messages.Errors();
+    const auto units = FromUnits(call);
+    BlackOilFile file;
+    if (units == Units::FIELD) {
+        messages.Fail(ToolKinds::otherUnits, input.Name(),
+                      "Expected no choice of field units, as the form with commas is metric "
+                      "always.");
+    }
+    Writer reader;
+    reader.SetDiagnosticSink(messages.Sink());
+    reader.SetReadsSaturationPoint(true);
+    file.regions.push_back(reader.GetTableFromCSVFile(input.Text(), input.Name()));
+    if (messages.Errors() > errors) {
+        throw CommandFailed();
+    }
+    return file;
+}
+
+BlackOilFile ReadTables(std::size_t operand, Call& call) {
+    Input input(call.Operand(operand), call.Told());
+    return ReadTables(input, call);
+}
+
+BlackOilTable TakeRegion(BlackOilFile& file, Call& call) {
+    const auto asked = call.Asked().Count(Options::region);
+    const std::size_t count = file.regions.size();
+    if (!asked && count > 1) {
+        call.Told().Tell(ToolKinds::firstRegion, call.Operand(0),
+                         "Expected one region, found " + std::to_string(count) +
+                             "; the first one is taken. --region takes another.");
+    }
+    const std::uint64_t region = asked.value_or(1);
+    if (region > count) {
+        call.Told().Fail(ToolKinds::noSuchRegion, call.Operand(0),
+                         "Expected a region " + std::to_string(region) + ", found " +
+                             std::to_string(count) + " in all.");
+    }
+    return std::move(file.regions[region - 1]);
+}
+
+template <typename Visit>
+void ForEachRow(const BlackOilDataRecords& records, Visit visit) {
+    for (std::uint64_t record = 0; record < records.GetTableSize(); ++record) {
+        const std::uint64_t entries = records.GetRecordContentSize(record);
+        for (std::uint64_t entry = 0; entry < entries; ++entry) {
+            visit(record, entry);
+        }
+    }
+}
+
+// The rows, each in a record of its own: a dry gas row shows its pressure only as a record's first.
+BlackOilDataRecords RecordPerRow(const BlackOilDataRecords& records) {
+    BlackOilDataRecords rows;
+    ForEachRow(records, [&](std::uint64_t record, std::uint64_t entry) {
+        rows.AddEntry(rows.GetTableSize(), records.GetPressure(record, entry),
+                      records.GetProperty(record, entry),
+                      records.GetFormationVolumeFactor(record, entry),
+                      records.GetViscosity(record, entry));
+    });
+    return rows;
+}
+
+// A table by pressure alone has one row for each pressure.
+void WarnUnlessPressureRises(Call& call, const BlackOilDataRecords& records, const char* kind) {
+    std::optional<double> previous;
+    bool rises = true;
+    ForEachRow(records, [&](std::uint64_t record, std::uint64_t entry) {
+        const double pressure = records.GetPressure(record, entry);
+        rises = rises && (!previous || pressure > *previous);
+        previous = pressure;
+    });
+    if (!rises) {
+        call.Told().Tell(ToolKinds::pressureOrder, call.Operand(0),
+                         std::string("Expected one row for each pressure, by rising pressure, as a "
+                                     "table of ") +
+                             kind + " has them, found others; all rows are written as they are.");
+    }
+}
+
+bool IsEmpty(const BlackOilDataRecords& records) {
+    return records.GetTableSize() == 0;
+}
+
+Writer::EXPORT_TYPE TablesOf(const BlackOilTable& table) {
+    const bool isDead = IsEmpty(table.GetLiveOilData()) && !IsEmpty(table.GetDeadOilData());
+    const bool isDry = IsEmpty(table.GetWetGasData()) && !IsEmpty(table.GetDryGasData());
+    return isDead ? (isDry ? Writer::DEAD_OIL_DRY_GAS : Writer::DEAD_OIL_WET_GAS)
+                  : (isDry ? Writer::LIVE_OIL_DRY_GAS : Writer::LIVE_OIL_WET_GAS);
+}
+
+// Puts the rows where the choice has them written from: those of the other table of the phase,
+// where its own has none.
+void MoveRows(BlackOilTable& table, Writer::EXPORT_TYPE choice, Call& call) {
+    const bool isDead = choice == Writer::DEAD_OIL_WET_GAS || choice == Writer::DEAD_OIL_DRY_GAS;
+    const bool isDry = choice == Writer::LIVE_OIL_DRY_GAS || choice == Writer::DEAD_OIL_DRY_GAS;
+    if (isDead && IsEmpty(table.GetDeadOilData())) {
+        table.SetDeadOilData(table.GetLiveOilData());
+        WarnUnlessPressureRises(call, table.GetDeadOilData(), "dead oil");
+    } else if (!isDead && IsEmpty(table.GetLiveOilData())) {
+        table.SetLiveOilData(table.GetDeadOilData());
+    }
+    if (isDry && IsEmpty(table.GetDryGasData())) {
+        table.SetDryGasData(RecordPerRow(table.GetWetGasData()));
+        WarnUnlessPressureRises(call, table.GetDryGasData(), "dry gas");
+    } else if (!isDry && IsEmpty(table.GetWetGasData())) {
+        table.SetWetGasData(table.GetDryGasData());
+    }
+}
+
+Writer::EXPORT_TYPE ChooseTables(const BlackOilTable& table, const Call& call) {
+    const std::string word = call.Asked().Value(tables, "auto");
+    const auto choice = std::ranges::find(tableChoices, word,
+                                          &std::pair<std::string_view, Writer::EXPORT_TYPE>::first);
+    return choice == std::end(tableChoices) ? TablesOf(table) : choice->second;
+}
+
+void WarnOfWaterDensity(const BlackOilTable& table, Call& call) {
+    constexpr double writtenDensity = 1000.0;
+    if (table.GetWaterDensity() != 0.0 && table.GetWaterDensity() != writtenDensity) {
+        call.Told().Tell(ToolKinds::waterDensity, call.Operand(0),
+                         "Expected a water density of 1000 kg/m3, which is what files are written "
+                         "with, found " +
+                             NumberText(table.GetWaterDensity()) + ".");
+    }
+}
+
+void Show(Call& call) {
+    const ShowForm form = ShowFormOf(call);
+    const BlackOilFile file = ReadTables(0, call);
+    const bool field = IsField(call, Options::showUnits);
+    switch (form) {
+    case ShowForm::Text:
+        PrintBlackOil(call.Out(), file.regions, field, ExtentOf(call));
+        break;
+    case ShowForm::Csv:
+        PrintBlackOilCsv(call.Out(), file.regions, field);
+        break;
+    case ShowForm::Json:
+        JsonWriter json(call.Out());
+        json.BeginObject();
+        json.Add("format", "blackoil");
+        WriteBlackOil(json, file.regions);
+        json.EndObject();
+        break;
+    }
+}
+
+void Convert(Call& call) {
+    const std::string& out = call.Operand(1);
+    const auto form = IsToCsv(call, out) ? Writer::CSV : Writer::PVO;
+    const auto units = UnitsOf(call.Asked().Value(Options::toUnits, "metric"));
+    BlackOilFile file = ReadTables(0, call);
+    BlackOilTable table = TakeRegion(file, call);
+    WarnOfWaterDensity(table, call);
+    const auto choice = ChooseTables(table, call);
+    MoveRows(table, choice, call);
+    call.Write(out, [&](std::ostream& stream) {
+        Writer(call.Asked().Has(Options::highPrecision))
+            .ExportToFile(table, stream, units, choice, form);
+    });
+}
+
+// The records of two tables of a kind. Oil has a record for each ratio and its rows by pressure;
+// gas, and tables without records of several rows, have it the other way round.
+struct Compared {
+    const char* name;
+    const BlackOilDataRecords& (BlackOilTable::*records)() const noexcept;
+    bool isOil;
+    bool isByPressureAlone;
+};
+
+constexpr Compared compared[] = {
+    {"oil", &BlackOilTable::GetLiveOilData, true, false},
+    {"dead oil", &BlackOilTable::GetDeadOilData, true, true},
+    {"gas", &BlackOilTable::GetWetGasData, false, false},
+    {"dry gas", &BlackOilTable::GetDryGasData, false, true},
+};
+
+class TableComparison {
+public:
+    TableComparison(Comparison& comparison, const Compared& kind, std::string name, bool field,
+                    const BlackOilDataRecords& first, const BlackOilDataRecords& second)
+        : comparison_(comparison),
+          kind_(kind),
+          name_(std::move(name)),
+          units_(kind.isOil ? OilUnits(field) : GasUnits(field)),
+          first_(first),
+          second_(second) {}
+
+    void Compare();
+
+private:
+    struct Row {
+        const BlackOilDataRecords* records;
+        std::uint64_t record;
+        std::uint64_t entry;
+
+        double Pressure() const { return records->GetPressure(record, entry); }
+        double Ratio() const { return records->GetProperty(record, entry); }
+        double VolumeFactor() const { return records->GetFormationVolumeFactor(record, entry); }
+        double Viscosity() const { return records->GetViscosity(record, entry); }
+    };
+    using Rows = std::vector<Row>;
+
+    double OuterKey(const Row& row) const { return kind_.isOil ? row.Ratio() : row.Pressure(); }
+    double InnerKey(const Row& row) const { return kind_.isOil ? row.Pressure() : row.Ratio(); }
+    std::string Where(const Row& row, bool isRecord) const;
+    static Rows FirstRows(const BlackOilDataRecords& records);
+    static Rows AllRows(const BlackOilDataRecords& records);
+    static Rows RowsOf(const Row& first);
+    template <typename Key, typename Both>
+    void MatchRows(const Rows& first, const Rows& second, Key key, bool areRecords, Both both);
+    void CompareRows(const Row& first, const Row& second);
+
+    Comparison& comparison_;
+    const Compared& kind_;
+    std::string name_;
+    const BlackOilUnits& units_;
+    const BlackOilDataRecords& first_;
+    const BlackOilDataRecords& second_;
+};
+
+std::string TableComparison::Where(const Row& row, bool isRecord) const {
+    const auto text = [](const ShownUnit& unit, double value) {
+        return ", " + NumberText(unit.convert(value)) + ' ' + unit.name;
+    };
+    const std::string ratio = text(units_.ratio, row.Ratio());
+    const std::string pressure = text(units_.pressure, row.Pressure());
+    if (kind_.isByPressureAlone) {
+        return name_ + pressure;
+    }
+    const std::string outer = kind_.isOil ? ratio : pressure;
+    return name_ + outer + (isRecord ? std::string() : kind_.isOil ? pressure : ratio);
+}
+
+TableComparison::Rows TableComparison::FirstRows(const BlackOilDataRecords& records) {
+    Rows rows;
+    for (std::uint64_t record = 0; record < records.GetTableSize(); ++record) {
+        rows.push_back({&records, record, 0});
+    }
+    return rows;
+}
+
+TableComparison::Rows TableComparison::AllRows(const BlackOilDataRecords& records) {
+    Rows rows;
+    ForEachRow(records, [&](std::uint64_t record, std::uint64_t entry) {
+        rows.push_back({&records, record, entry});
+    });
+    return rows;
+}
+
+TableComparison::Rows TableComparison::RowsOf(const Row& first) {
+    Rows rows;
+    for (std::uint64_t i = 0; i < first.records->GetRecordContentSize(first.record); ++i) {
+        rows.push_back({first.records, first.record, i});
+    }
+    return rows;
+}
+
+template <typename Key, typename Both>
+void TableComparison::MatchRows(const Rows& first, const Rows& second, Key key, bool areRecords,
+                                Both both) {
+    const auto keysOf = [&](const Rows& rows) {
+        std::vector<double> keys;
+        std::ranges::transform(rows, std::back_inserter(keys), key);
+        return keys;
+    };
+    for (const auto& [i, j] : MatchNumbers(keysOf(first), keysOf(second), comparison_)) {
+        if (i != Match::none && j != Match::none) {
+            both(first[i], second[j]);
+        } else {
+            const bool isInFirst = j == Match::none;
+            comparison_.AddMissing(Where(isInFirst ? first[i] : second[j], areRecords), isInFirst);
+        }
+    }
+}
+
+void TableComparison::CompareRows(const Row& first, const Row& second) {
+    const auto compare = [&](const char* what, const ShownUnit& unit, double a, double b) {
+        if (!comparison_.AreSame(a, b)) {
+            comparison_.Compare(Where(first, false), what, unit, a, b);
+        }
+    };
+    if (kind_.isByPressureAlone) {
+        compare("ratio", units_.ratio, first.Ratio(), second.Ratio());
+    }
+    compare("FVF", units_.volumeFactor, first.VolumeFactor(), second.VolumeFactor());
+    compare("viscosity", units_.viscosity, first.Viscosity(), second.Viscosity());
+}
+
+void TableComparison::Compare() {
+    const auto rows = [this](const Row& a, const Row& b) { CompareRows(a, b); };
+    if (kind_.isByPressureAlone) {
+        MatchRows(
+            AllRows(first_), AllRows(second_), [](const Row& row) { return row.Pressure(); }, false,
+            rows);
+        return;
+    }
+    MatchRows(
+        FirstRows(first_), FirstRows(second_), [this](const Row& row) { return OuterKey(row); },
+        true,
+        [&](const Row& a, const Row& b) {
+            MatchRows(
+                RowsOf(a), RowsOf(b), [this](const Row& row) { return InnerKey(row); }, false,
+                rows);
+        });
+}
+
+void CompareRegions(Comparison& comparison, const BlackOilTable& first, const BlackOilTable& second,
+                    const std::string& region, bool field) {
+    const ShownUnit density =
+        field ? ShownUnit{"lb/ft3", Units::Density_kgm3_To_lbft3} : ShownUnit{"kg/m3"};
+    const BlackOilUnits& units = OilUnits(field);
+    const auto compare = [&](const char* where, const char* what, const ShownUnit& unit,
+                             double (BlackOilTable::*value)() const noexcept) {
+        comparison.Compare(region + where, what, unit, (first.*value)(), (second.*value)());
+    };
+    compare("oil", "density", density, &BlackOilTable::GetOilDensity);
+    compare("water", "density", density, &BlackOilTable::GetWaterDensity);
+    compare("gas", "density", density, &BlackOilTable::GetGasDensity);
+    compare("saturation point", "GOR", units.ratio, &BlackOilTable::GetSaturationPointRs);
+    compare("saturation point", "pressure", units.pressure,
+            &BlackOilTable::GetSaturationPointPressure);
+    for (const Compared& kind : compared) {
+        TableComparison(comparison, kind, region + kind.name, field, (first.*kind.records)(),
+                        (second.*kind.records)())
+            .Compare();
+    }
+}
+
+void Diff(Call& call) {
+    Comparison comparison(call.Asked().Number(Options::tolerance).value_or(defaultTolerance));
+    const BlackOilFile first = ReadTables(0, call);
+    const BlackOilFile second = ReadTables(1, call);
+    const std::size_t count = std::max(first.regions.size(), second.regions.size());
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::string region = count > 1 ? "region " + std::to_string(i + 1) : std::string();
+        if (i >= first.regions.size() || i >= second.regions.size()) {
+            comparison.AddMissing(region, i < first.regions.size());
+        } else {
+            CompareRegions(comparison, first.regions[i], second.regions[i],
+                           count > 1 ? region + ", " : region, IsField(call, Options::showUnits));
+        }
+    }
+    TellComparison(call, "blackoil", comparison);
+}
+
+constexpr Option showOptions[] = {Options::fromUnits, Options::showUnits, Options::all,
+                                  Options::json,      Options::csv,       Options::strict};
+constexpr Option convertOptions[] = {
+    Options::toKeywordsOrCsv, Options::toUnits, Options::fromUnits, Options::region, tables,
+    Options::highPrecision,   Options::strict};
+constexpr Option diffOptions[] = {Options::tolerance, Options::fromUnits, Options::showUnits,
+                                  Options::json, Options::strict};
+constexpr Command commands[] = {
+    {"blackoil", "show", "Show the densities and tables of a file", "IN", showOptions, Show},
+    {"blackoil", "convert", "Write the tables as keywords for a simulator, or with commas",
+     "IN OUT", convertOptions, Convert},
+    {"blackoil", "diff", "Tell what differs between two files", "A B", diffOptions, Diff},
+};
+
+} // namespace
+
+std::span<const Command> BlackOilCommands() {
+    return commands;
+}
+
+void CheckBlackOil(Input& input, Call& call) {
+    ReadTables(input, call);
+}
+
+} // namespace FluidBenchTool
