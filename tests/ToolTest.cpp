@@ -136,6 +136,14 @@ TEST_F(ToolTest, ShowsConvertsAndCompares) {
         {"blackoil diff oil.csv oil2.csv", 1, "blackoil-diff.txt"},
         {"blackoil diff oil.csv oil2.csv --json", 1, "blackoil-diff.json"},
         {"blackoil diff oil.csv oil2.csv --tolerance 0.02", 0, "nothing"},
+        {"kvalues show kvalues.csv --show-units field", 0, "kvalues-show-field.txt"},
+        {"kvalues show kvalues.csv --json", 0, "kvalues-show.json"},
+        {"kvalues convert kvalues.csv - --to-units field", 0, "kvalues-convert-field.txt"},
+        {"kvalues convert kvalues.csv - --to csv", 0, "kvalues-convert.csv"},
+        {"kvalues diff kvalues.csv kvalues2.csv", 1, "kvalues-diff.txt"},
+        {"thermal show thermal.csv", 0, "thermal-show.txt"},
+        {"thermal show thermal.csv --json", 0, "thermal-show.json"},
+        {"thermal convert thermal.csv - --to csv", 0, "thermal.csv"},
         {"envelope show envelope.csv", 0, "envelope-show.txt"},
         {"envelope show envelope.csv --csv --show-units=field", 0, "envelope-show-field.csv"},
         {"envelope show envelope.csv --json", 0, "envelope-show.json"},
@@ -203,6 +211,26 @@ TEST_F(ToolTest, ReadsWhatThereIsAndTellsWhatIsNone) {
               Tool("deck show reservoir-oil-field.dat --json").output);
     EXPECT_EQ(FilesOf(), "dangling\nfolder\ngood.csv\nlink\npipe\nreservoir-oil-field.dat\n"
                          "reservoir-oil-grid.inc\n");
+}
+
+TEST_F(ToolTest, TellsWhichRowOfDataIsWrong) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"components,C1\nrecord,25,1,2\n", "2: error: Expected 2 cells behind 'record', found 3."},
+        {"components,C1\n\n#\nrecord,25,n/a\n",
+         "4: error: Expected numbers behind 'record', found 'n/a'."},
+        {"record,25,1\n", "1: error: Expected a row 'temperature', 'components' or, behind these, "
+                          "'record', found 'record'."},
+        {"components,\"C1\n", "1: error: Expected a quote that is closed on its line, found "
+                              "'components,\"C1'."},
+        {"temperature,300\n", " error: Expected a row 'components', found none that is whole."},
+    };
+    for (const auto& [text, message] : cases) {
+        folder.Write("in.csv", text);
+        const Outcome run = Tool("kvalues convert in.csv out.csv");
+        EXPECT_EQ(run.status, 1) << text;
+        EXPECT_EQ(run.messages, std::string("in.csv:") + message + " [tool.bad-row]\n");
+        EXPECT_EQ(FilesOf(), "in.csv\n");
+    }
 }
 
 TEST_F(ToolTest, LeavesTheOldFileUntilTheNewOneIsWhole) {

@@ -76,6 +76,8 @@ std::span<const Family> Families() {
     static const Family families[] = {
         {"deck", "keyword decks of compositional fluids", DeckCommands(), CheckDeck},
         {"blackoil", "black-oil tables", BlackOilCommands(), CheckBlackOil},
+        {"kvalues", "K-value tables", KValuesCommands(), CheckKValues},
+        {"thermal", "thermal data", ThermalCommands(), CheckThermal},
         {"envelope", "phase envelopes", EnvelopeCommands(), CheckEnvelope},
         {"dfa", "downhole fluid analyses", DfaCommands(), CheckDfa},
         {"mfl", "MFL fluid files", MflCommands(), CheckMfl},

@@ -123,6 +123,10 @@ std::span<const Command> DfaCommands();
 void CheckDfa(Input& input, Call& call);
 std::span<const Command> EnvelopeCommands();
 void CheckEnvelope(Input& input, Call& call);
+std::span<const Command> KValuesCommands();
+void CheckKValues(Input& input, Call& call);
+std::span<const Command> ThermalCommands();
+void CheckThermal(Input& input, Call& call);
 std::span<const Command> MflCommands();
 void CheckMfl(Input& input, Call& call);
 

@@ -19,6 +19,7 @@ using enum Orv::FluidBench::IO::Severity;
 inline constexpr ToolKind cantRead       {"tool.cant-read", Error};
 inline constexpr ToolKind cantWrite      {"tool.cant-write", Error};
 inline constexpr ToolKind unknownFormat  {"tool.unknown-format", Error};
+inline constexpr ToolKind keywordForm    {"tool.keyword-form", Error};
 inline constexpr ToolKind badRow         {"tool.bad-row", Error};
 inline constexpr ToolKind nothingRead    {"tool.nothing-read", Error};
 inline constexpr ToolKind noSuchRegion   {"tool.no-such-region", Error};
