@@ -144,6 +144,10 @@ TEST_F(ToolTest, ShowsConvertsAndCompares) {
         {"thermal show thermal.csv", 0, "thermal-show.txt"},
         {"thermal show thermal.csv --json", 0, "thermal-show.json"},
         {"thermal convert thermal.csv - --to csv", 0, "thermal.csv"},
+        {"depth show depth.csv", 0, "depth-show.txt"},
+        {"depth show depth.csv --json", 0, "depth-show.json"},
+        {"depth convert depth.csv - --table ratios --to-units field", 0, "depth-ratios-field.txt"},
+        {"depth convert depth.csv - --table saturation", 0, "depth-saturation.txt"},
         {"envelope show envelope.csv", 0, "envelope-show.txt"},
         {"envelope show envelope.csv --csv --show-units=field", 0, "envelope-show-field.csv"},
         {"envelope show envelope.csv --json", 0, "envelope-show.json"},
@@ -204,6 +208,7 @@ TEST_F(ToolTest, ReadsWhatThereIsAndTellsWhatIsNone) {
         EXPECT_EQ(run.output, c.output) << c.arguments;
         EXPECT_EQ(run.messages, c.messages) << c.arguments;
     }
+    EXPECT_EQ(Shell("ulimit -s 64; TOOL check good.csv").output, "good.csv: blackoil, good\n");
     // A pipe is read once, and gives all that a file does.
     EXPECT_EQ(Shell("cat good.csv | TOOL blackoil convert - -").output,
               Tool("blackoil convert good.csv -").output);
@@ -295,6 +300,22 @@ TEST_F(ToolTest, LeavesTheOldFileUntilTheNewOneIsWhole) {
     EXPECT_EQ(head.output, "plot,line,fraction,temperature \u00B0C,pressure bar\n");
     EXPECT_EQ(head.messages, "");
     EXPECT_EQ(ReadFile(folder / "status"), "1\n");
+}
+
+TEST_F(ToolTest, KeepsItsInputOnADiskThatIsTooSmall) {
+    if (Shell("mkdir small && mount -t tmpfs -o size=64k none small").status != 0) {
+        GTEST_SKIP() << "Only root mounts a disk.";
+    }
+    const Outcome run = Shell("cp @rich-gas-envelope.csv small/in.csv; cd small; head -c 45000 "
+                              "/dev/zero > rest; TOOL envelope convert in.csv in.csv");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.messages, "in.csv: error: Expected a file to write, found that it can't be "
+                            "written whole (No space left on device); the old file stands. "
+                            "[tool.cant-write]\n");
+    EXPECT_EQ(ReadFile(folder / "small/in.csv"),
+              ReadFile(FLUIDBENCH_EXAMPLE_DATA "/rich-gas-envelope.csv"));
+    EXPECT_EQ(FilesOf("small"), "in.csv\nrest\n");
+    EXPECT_EQ(Shell("umount small").status, 0);
 }
 
 TEST_F(ToolTest, KeepsItsInputWhenItIsKilledWhileItReplacesIt) {

@@ -10,7 +10,7 @@ namespace FluidBenchTool {
 
 namespace {
 
-constexpr Option format{"--format", "deck|blackoil|kvalues|thermal|envelope|dfa|mfl",
+constexpr Option format{"--format", "deck|blackoil|kvalues|thermal|depth|envelope|dfa|mfl",
                         "The format of the files. Found from their content, unless given"};
 
 std::string CountText(std::uint64_t count, const char* what) {

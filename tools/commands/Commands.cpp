@@ -78,6 +78,7 @@ std::span<const Family> Families() {
         {"blackoil", "black-oil tables", BlackOilCommands(), CheckBlackOil},
         {"kvalues", "K-value tables", KValuesCommands(), CheckKValues},
         {"thermal", "thermal data", ThermalCommands(), CheckThermal},
+        {"depth", "fluids by depth", DepthCommands(), CheckDepth},
         {"envelope", "phase envelopes", EnvelopeCommands(), CheckEnvelope},
         {"dfa", "downhole fluid analyses", DfaCommands(), CheckDfa},
         {"mfl", "MFL fluid files", MflCommands(), CheckMfl},

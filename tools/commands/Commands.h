@@ -119,6 +119,8 @@ std::span<const Command> BlackOilCommands();
 void CheckBlackOil(Input& input, Call& call);
 std::span<const Command> DeckCommands();
 void CheckDeck(Input& input, Call& call);
+std::span<const Command> DepthCommands();
+void CheckDepth(Input& input, Call& call);
 std::span<const Command> DfaCommands();
 void CheckDfa(Input& input, Call& call);
 std::span<const Command> EnvelopeCommands();

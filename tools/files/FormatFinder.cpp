@@ -38,7 +38,7 @@ constexpr Sign cells[] = {
     {"pvto", "blackoil"}, {"pvtg", "blackoil"}, {"oden", "blackoil"}, {"gden", "blackoil"},
     {"components", "kvalues"}, {"record", "kvalues"},
     {"standard", "thermal"}, {"molecular weights", "thermal"},
-    {"separator", "depth"}, {"contact", "depth"},
+    {"separator", "depth"}, {"contact", "depth"}, {"gas", "depth"}, {"oil", "depth"},
 };
 // clang-format on
 
