@@ -14,11 +14,11 @@ struct FilePlace {
     std::uint64_t line = 0;
 };
 
-/// "FILE, line N" for a message.
+/// "FILE, line N" for a message; "line N" for a text without a name.
 std::string Describe(const FilePlace& place);
 
-/// A keyword file that can't be read. `what()` is one sentence: file, line, keyword, what was
-/// expected there and what was found.
+/// A keyword file that can't be read. `what()` is one sentence: file, line, keyword unless it is
+/// empty, what was expected there and what was found.
 class KeywordError : public std::runtime_error {
 public:
     KeywordError(const FilePlace& place, std::string_view keyword, const std::string& expected,
@@ -29,6 +29,11 @@ public:
 class ReadFailed : public std::runtime_error {
 public:
     explicit ReadFailed(const FilePlace& place);
+
+    const FilePlace& Place() const noexcept { return place_; }
+
+private:
+    FilePlace place_;
 };
 
 } // namespace Orv::Text

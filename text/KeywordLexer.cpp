@@ -2,6 +2,7 @@
 
 #include "Characters.h"
 #include "KeywordError.h"
+#include "NumberText.h"
 #include "Quote.h"
 
 #include <algorithm>
@@ -119,13 +120,62 @@ Token KeywordLexer::Next() {
             Pass(1);
             return {Kind::Slash, {}, false};
         } else if (ahead.starts_with("--")) {
-            SkipLine();
+            ReadComment();
             return {Kind::LineEnd, {}, false};
         } else {
             const bool isAtHeadOfLine = isAtHeadOfLine_;
             return IsQuote(first) ? ReadQuoted(isAtHeadOfLine) : ReadWord(isAtHeadOfLine);
         }
     }
+}
+
+std::size_t KeywordLexer::TakeNumber(double& number) {
+    std::string_view ahead = file_.Ahead();
+    std::size_t begin = 0;
+    for (;;) {
+        while (begin < ahead.size() && IsBlank(ahead[begin])) {
+            ++begin;
+        }
+        if (begin == ahead.size() || ahead[begin] != '\n') {
+            break;
+        }
+        Pass(begin);
+        PassNewline();
+        ahead = file_.Ahead();
+        begin = 0;
+    }
+    const std::string_view item = ahead.substr(begin);
+    const std::size_t length = ReadNumberAhead(item, number);
+    // What may go on behind the block, or with other characters, is left alone.
+    if (length == 0 || length == item.size() ||
+        !(IsBlank(item[length]) || item[length] == '\n' || item[length] == '/')) {
+        return 0;
+    }
+    Pass(begin + length);
+    return length;
+}
+
+void KeywordLexer::ReadComment() {
+    if (!takeComment_) {
+        SkipLine();
+        return;
+    }
+    std::string_view ahead = file_.Ahead();
+    std::size_t newline = ahead.find('\n');
+    while (newline == std::string_view::npos && ahead.size() < longestComment) {
+        const std::size_t searched = ahead.size();
+        ahead = file_.MoreAhead();
+        if (ahead.size() == searched) {
+            break;
+        }
+        newline = ahead.find('\n', searched);
+    }
+    std::string_view comment = ahead.substr(0, newline);
+    if (comment.size() <= longestComment) {
+        comment.remove_prefix(2);
+        takeComment_(comment.substr(0, comment.size() - (comment.ends_with('\r') ? 1 : 0)));
+    }
+    SkipLine();
 }
 
 // A word ends in front of a blank, a slash or a comment, and behind the asterisk of a repeat count

@@ -5,8 +5,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace Orv::Text {
 
@@ -47,6 +49,11 @@ std::string Capitals(std::string_view word);
 class KeywordLexer {
 public:
     static constexpr std::size_t longestItem = 16'384;
+    /// A longer comment isn't told.
+    static constexpr std::size_t longestComment = std::size_t{1} << 20;
+
+    /// Takes the text of a comment, behind its dashes.
+    using TakeComment = std::function<void(std::string_view comment)>;
 
     /// Begins with the first line of the file. Throws as `KeywordFile`'s constructor does.
     explicit KeywordLexer(const std::string& fileName) : file_(fileName) {}
@@ -54,12 +61,23 @@ public:
     KeywordLexer(std::istream& stream, const std::string& name) : file_(stream, name) {}
 
     const KeywordFile& File() const noexcept { return file_; }
+    /// What the text looks like.
+    TextKind Kind() { return file_.Kind(); }
 
     /// Goes on behind a token: where `File()` had this offset and line.
     void MoveTo(std::uint64_t offset, std::uint64_t line);
 
+    /// From here on tells the comments that `Next` passes over, while `File()` stands on their
+    /// line.
+    void SetCommentWatch(TakeComment take) { takeComment_ = std::move(take); }
+
     /// The next token. Its text is valid until the next call of an operation that isn't const.
     Token Next();
+
+    /// Takes the next item where it is a number and nothing else, together with the blanks and line
+    /// ends ahead of it: the quick way through a table. Gives the length of its text; 0 where the
+    /// next item may be anything else, or a number that `Next` has to give.
+    std::size_t TakeNumber(double& number);
 
     /// Passes the rest of the line, with its end.
     void SkipLine();
@@ -73,6 +91,7 @@ public:
     void SkipPlainText();
 
 private:
+    void ReadComment();
     Token ReadWord(bool isAtHeadOfLine);
     Token ReadQuoted(bool isAtHeadOfLine);
     std::size_t FindClosingQuote();
@@ -81,6 +100,7 @@ private:
     void PassNewline() noexcept;
 
     KeywordFile file_;
+    TakeComment takeComment_;
     bool isAtHeadOfLine_ = true;
     // What was found out before: ahead of this offset there is no plain text, and no single or
     // double quote closes.

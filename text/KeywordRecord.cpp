@@ -1,5 +1,6 @@
 #include "KeywordRecord.h"
 
+#include "KeywordItem.h"
 #include "NumberText.h"
 #include "Quote.h"
 
@@ -12,36 +13,6 @@ namespace Orv::Text {
 namespace {
 
 using Kind = Token::Kind;
-
-// One item of a record of numbers: so many times the number, or the default.
-struct RepeatedNumber {
-    std::uint64_t count = 1;
-    bool isDefault = false;
-    double number = 0.0;
-};
-
-// "16.04", "3*0.5" or "2*". False for anything else, and for a count of zero.
-bool ParseRepeated(std::string_view text, RepeatedNumber& repeated) {
-    if (ParseNumber(text, repeated.number)) {
-        return true;
-    }
-    const std::size_t asterisk = text.find('*');
-    if (asterisk == std::string_view::npos) {
-        return false;
-    }
-    const std::string_view value = text.substr(asterisk + 1);
-    repeated.count = ParseCount(text.substr(0, asterisk)).value_or(0);
-    repeated.isDefault = value.empty();
-    return repeated.count > 0 && (repeated.isDefault || ParseNumber(value, repeated.number));
-}
-
-bool IsName(const Token& item) {
-    double number = 0.0;
-    const bool isBareName = item.kind == Kind::Word &&
-                            item.text.find_first_of("*'\"") == std::string_view::npos &&
-                            !ParseNumber(item.text, number);
-    return !item.text.empty() && (item.kind == Kind::Quoted || isBareName);
-}
 
 KeywordLexer Open(const KeywordPlace& place) {
     try {
@@ -63,15 +34,15 @@ std::size_t KeywordRecord::ReadNumbers(const ItemCount& count, const TakeNumber&
     std::size_t index = 0;
     for (Token item = NextItem(count.meaning); item.kind != Kind::Slash;
          item = NextItem(count.meaning)) {
-        RepeatedNumber repeated;
-        if (item.kind != Kind::Word || !ParseRepeated(item.text, repeated)) {
+        const auto repeated = item.kind == Kind::Word ? ParseRepeated(item.text) : std::nullopt;
+        if (!repeated) {
             Fail(index < count.least ? "a number" : "a number or '/'", Describe(item));
         }
-        if (repeated.count > count.most - index) {
+        if (repeated->count > count.most - index) {
             Fail(count.meaning, Describe(item) + " behind " + std::to_string(index) + " of them");
         }
-        for (std::uint64_t i = 0; i < repeated.count; ++i) {
-            take(index++, repeated.isDefault ? nullptr : &repeated.number);
+        for (std::uint64_t i = 0; i < repeated->count; ++i) {
+            take(index++, repeated->isDefault ? nullptr : &repeated->number);
         }
     }
     if (index < count.least) {
@@ -102,7 +73,7 @@ std::vector<std::string> KeywordRecord::ReadNames(const ItemCount& count) {
     std::vector<std::string> names;
     for (Token item = NextItem(count.meaning); item.kind != Kind::Slash;
          item = NextItem(count.meaning)) {
-        if (!IsName(item)) {
+        if (item.text.empty() || !IsName(item)) {
             Fail("a name", Describe(item));
         }
         if (names.size() == count.most) {

@@ -472,6 +472,26 @@ bool ParseNumber(std::string_view text, double& number) {
            (ParseWhole(text, number) || ParseWithD(text, number));
 }
 
+std::size_t ReadNumberAhead(std::string_view text, double& number) noexcept {
+    const bool isNegative = text.starts_with('-');
+    const char* const begin = text.data() + (isNegative ? 1 : 0);
+    const char* const end = text.data() + text.size();
+    if (begin == end || !(IsDigit(*begin) || *begin == '.')) {
+        return 0;
+    }
+    double magnitude = 0.0;
+    const char* behind = ReadPlainDecimal(begin, end, magnitude);
+    if (behind == nullptr) {
+        const auto [numberEnd, error] = std::from_chars(begin, end, magnitude);
+        if (error != std::errc()) {
+            return 0;
+        }
+        behind = numberEnd;
+    }
+    number = isNegative ? -magnitude : magnitude;
+    return static_cast<std::size_t>(behind - text.data());
+}
+
 std::optional<std::uint64_t> ParseCount(std::string_view text) noexcept {
     std::uint64_t count = 0;
     return ParseWhole(text, count) ? std::optional(count) : std::nullopt;

@@ -69,6 +69,10 @@ std::optional<double> TakeExtracted(std::string_view& text) noexcept;
 /// a keyword file.
 bool ParseNumber(std::string_view text, double& number);
 
+/// Reads the number that `text` begins with, in the form of `ParseNumber` but without a plus sign
+/// and a D, and gives its length; 0 where there is none. The text behind it doesn't matter.
+std::size_t ReadNumberAhead(std::string_view text, double& number) noexcept;
+
 /// The whole number that `text` is, without a sign. Nothing for anything else.
 std::optional<std::uint64_t> ParseCount(std::string_view text) noexcept;
 

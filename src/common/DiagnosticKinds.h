@@ -88,6 +88,47 @@ inline constexpr DiagnosticKind wellReturns      {"dfa.well-returns", Warning};
 inline constexpr DiagnosticKind otherText        {"dfa.other-text", Note};
 
 } // namespace DfaKinds
+
+// Of all readers of keyword files.
+namespace KeywordKinds {
+
+using enum FluidBench::IO::Severity;
+
+inline constexpr DiagnosticKind noTable          {"keywords.no-table", Error};
+inline constexpr DiagnosticKind notANumber       {"keywords.not-a-number", Error};
+inline constexpr DiagnosticKind notAName         {"keywords.not-a-name", Error};
+inline constexpr DiagnosticKind rowLength        {"keywords.row-length", Error};
+inline constexpr DiagnosticKind repeatCount      {"keywords.repeat-count", Error};
+inline constexpr DiagnosticKind noDefault        {"keywords.no-default", Error};
+inline constexpr DiagnosticKind recordNotClosed  {"keywords.record-not-closed", Error};
+inline constexpr DiagnosticKind textBehindSlash  {"keywords.text-behind-slash", Error};
+inline constexpr DiagnosticKind rowOrder         {"keywords.row-order", Error};
+inline constexpr DiagnosticKind noPressure       {"keywords.no-pressure", Error};
+inline constexpr DiagnosticKind noNames          {"keywords.no-names", Error};
+inline constexpr DiagnosticKind nameTwice        {"keywords.name-twice", Error};
+inline constexpr DiagnosticKind countDiffers     {"keywords.count-differs", Error};
+inline constexpr DiagnosticKind noRowEnd         {"keywords.no-row-end", Error};
+inline constexpr DiagnosticKind pressuresDiffer  {"keywords.pressures-differ", Error};
+inline constexpr DiagnosticKind include          {"keywords.include", Error};
+inline constexpr DiagnosticKind noUnits          {"keywords.no-units", Error};
+inline constexpr DiagnosticKind otherUnits       {"keywords.other-units", Error};
+inline constexpr DiagnosticKind secondUnits      {"keywords.second-units", Error};
+inline constexpr DiagnosticKind unitsContradicted{"keywords.units-contradicted", Error};
+inline constexpr DiagnosticKind notTaken         {"keywords.not-taken", Warning};
+inline constexpr DiagnosticKind skipNotClosed    {"keywords.skip-not-closed", Warning};
+inline constexpr DiagnosticKind defaultIsZero    {"keywords.default-is-zero", Warning};
+inline constexpr DiagnosticKind noRows           {"keywords.no-rows", Warning};
+inline constexpr DiagnosticKind fewerRegions     {"keywords.fewer-regions", Warning};
+inline constexpr DiagnosticKind noDensities      {"keywords.no-densities", Warning};
+inline constexpr DiagnosticKind missingKeyword   {"keywords.missing-keyword", Warning};
+inline constexpr DiagnosticKind secondTime       {"keywords.second-time", Warning};
+inline constexpr DiagnosticKind gasHeat          {"keywords.gas-heat", Warning};
+inline constexpr DiagnosticKind noHeat           {"keywords.no-heat", Warning};
+inline constexpr DiagnosticKind depthOrder       {"keywords.depth-order", Warning};
+inline constexpr DiagnosticKind heatLine         {"keywords.heat-line", Note};
+inline constexpr DiagnosticKind waterDensity     {"keywords.water-density", Note};
+
+} // namespace KeywordKinds
 // clang-format on
 
 } // namespace Orv::FluidBench::Impl::IO

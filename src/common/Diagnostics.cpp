@@ -11,7 +11,7 @@ using Text::TextKind;
 Diagnostics::Diagnostics(const DiagnosticSink& sink, std::string file)
     : sink_(sink), areWanted_(static_cast<bool>(sink)), file_(std::move(file)) {}
 
-void Diagnostics::Tell(const DiagnosticKind& kind, std::uint64_t line,
+void Diagnostics::Tell(const DiagnosticKind& kind, const std::string& file, std::uint64_t line,
                        const std::string& sentence) {
     if (!areWanted_) {
         return;
@@ -21,7 +21,7 @@ void Diagnostics::Tell(const DiagnosticKind& kind, std::uint64_t line,
         count = counts_.insert(count, {&kind, 0});
     }
     if (++count->number <= mostOfOneKind) {
-        sink_({kind.severity, file_, line, kind.code, sentence});
+        sink_({kind.severity, file, line, kind.code, sentence});
     }
 }
 

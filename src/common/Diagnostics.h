@@ -25,7 +25,12 @@ public:
 
     bool AreWanted() const noexcept { return areWanted_; }
 
-    void Tell(const DiagnosticKind& kind, std::uint64_t line, const std::string& sentence);
+    void Tell(const DiagnosticKind& kind, std::uint64_t line, const std::string& sentence) {
+        Tell(kind, file_, line, sentence);
+    }
+    /// Of another file, one that the file includes.
+    void Tell(const DiagnosticKind& kind, const std::string& file, std::uint64_t line,
+              const std::string& sentence);
 
     /// To be called when the file is read: counts what wasn't told one by one.
     void Finish();

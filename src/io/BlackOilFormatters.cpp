@@ -1,5 +1,6 @@
 #include "BlackOilFormatters.h"
 
+#include "BlackOilUnits.h"
 #include "NumberText.h"
 
 #include <array>
@@ -45,23 +46,6 @@ constexpr TableHeading dryGasHeading{
     "bar     rm3 /sm3     cp",
     "PVDG"};
 // clang-format on
-
-// The units of a table's rows; viscosity is in cP in both systems.
-struct RowUnits {
-    double (*pressure)(double);
-    double (*property)(double);
-    double (*formationVolumeFactor)(double);
-};
-
-double AsItIs(double value) {
-    return value;
-}
-
-constexpr RowUnits metricRow{Units::Pressure_Pa_To_bar, AsItIs, AsItIs};
-constexpr RowUnits fieldOilRow{Units::Pressure_Pa_To_psi, Units::VolumeRatio_m3m3_to_mscfbbl,
-                               Units::VolumeRatio_m3m3_to_bblbbl};
-constexpr RowUnits fieldGasRow{Units::Pressure_Pa_To_psi, Units::VolumeRatio_m3m3_to_bblmscf,
-                               Units::VolumeRatio_m3m3_to_bblmscf};
 
 constexpr std::size_t cellWidth = 8;
 constexpr std::size_t densityWidth = 12;
@@ -129,7 +113,7 @@ void PVOFormatter::GasTableHeader(std::ostream& out) {
 void PVOFormatter::SurfaceDensities(std::ostream& out, double oilDensity, double waterDensity,
                                     double gasDensity) {
     const NumberFormat format = FormatOf(out);
-    const auto convert = IsField() ? Units::Density_kgm3_To_lbft3 : AsItIs;
+    const auto convert = DensityUnit(IsField());
     std::string text = "-- DENSITY:\tOIL\tWATER\tGAS\n-- Units: ";
     text += IsField() ? "lb /ft^3  \t   lb /ft^3  \t   lb /ft^3"
                       : "kg /m^3  \t   kg /m^3  \t   kg /m^3 ";

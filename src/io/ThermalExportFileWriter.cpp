@@ -4,9 +4,9 @@
 #include "Messages.h"
 #include "OutputFile.h"
 #include "StreamFormat.h"
+#include "ThermalUnits.h"
 #include "io/ThermalTableFormatter.h"
 
-#include <algorithm>
 #include <ios>
 #include <memory>
 #include <ostream>
@@ -28,25 +28,6 @@ namespace {
 constexpr int decimalsOfHighPrecision = 15;
 constexpr int decimals = 8;
 constexpr int decimalsBehindMolecularWeights = 16;
-
-constexpr double joulePerKilojoule = 1000.0;
-constexpr double pascalPerBar = 100000.0;
-
-// The temperature of the heat capacity in a field file, in R (close to 60 degrees Fahrenheit), and
-// its powers.
-constexpr double fieldTemperature = 519.6701137665567;
-constexpr double fieldTemperatureSquared = 270057.027142146;
-constexpr double fieldTemperatureCubed = 140340566.01841712;
-
-// What scales a coefficient of the heat capacity for each power of K that becomes one of R.
-constexpr double perRankine = 0.5555555555555556;
-constexpr double perRankineSquared = 0.308641975308642;
-constexpr double perRankineCubed = 0.1714677640603567;
-
-std::vector<double> Scaled(std::vector<double> values, double factor) {
-    std::ranges::transform(values, values.begin(), [=](double value) { return value * factor; });
-    return values;
-}
 
 // Throws where a vector of the table hasn't one value for each component.
 void RequireOneValuePerComponent(const ThermalExportTable& table) {
@@ -97,44 +78,31 @@ ThermalExportFileWriter::ThermalExportFileWriter(bool useHighPrecision, FILE_TYP
     : highPrecision(useHighPrecision), fileType(type) {}
 
 double ThermalExportFileWriter::ConvertInverseTemperatureToField(double value) {
-    return value * perRankine;
+    return InverseTemperatureToField(value);
 }
 double ThermalExportFileWriter::ConvertSpechACoeffToField(double value) {
-    return Units::SpecificHeatCapacity_JPerkgK_to_btuPerlbF(value) * joulePerKilojoule;
+    return SpechACoeffToField(value);
 }
 double ThermalExportFileWriter::ConvertSpechBCoeffToField(double value) {
-    return Units::SpecificHeatCapacity_JPerkgK_to_btuPerlbF(value) * joulePerKilojoule /
-           Units::Temperature_K_To_R(1.0);
+    return SpechBCoeffToField(value);
 }
 double ThermalExportFileWriter::ConvertSpechCCoeffToField(double value) {
-    return value * 0.073717869;
+    return SpechCCoeffToField(value);
 }
 double ThermalExportFileWriter::ConvertSpechDCoeffToField(double value) {
-    return value * 0.040954372;
+    return SpechDCoeffToField(value);
 }
 
-// The order of the operations decides the last digits of the file.
 ThermalExportFileWriter::SpecificHeat
 ThermalExportFileWriter::SpecificHeatOf(const ThermalExportTable& table, bool isField) {
-    const double standard = table.StandardTemperature;
-    const double t = isField ? fieldTemperature : standard;
-    const double t2 = isField ? fieldTemperatureSquared : standard * standard;
-    const double t3 = isField ? fieldTemperatureCubed : standard * standard * standard;
     SpecificHeat heat;
     for (std::uint64_t i = 0; i < table.ComponentCount; ++i) {
-        double a = table.SpecificHeatA[i];
-        double b = table.SpecificHeatB[i];
-        double c = table.SpecificHeatC[i];
-        double d = table.SpecificHeatD[i];
-        if (isField) {
-            a = ConvertSpechACoeffToField(a);
-            b = ConvertSpechBCoeffToField(b) * perRankine;
-            c = ConvertSpechCCoeffToField(c) * perRankineSquared;
-            d = ConvertSpechDCoeffToField(d) * perRankineCubed;
-        }
-        const double molecularWeight = table.MolecularWeights[i];
-        heat.value.push_back((b * t + a + c * t2 + d * t3) / molecularWeight);
-        heat.slope.push_back(((c + c) * t + b + d * 3.0 * t2) / molecularWeight);
+        const HeatCapacity capacity =
+            HeatCapacityOf({table.SpecificHeatA[i], table.SpecificHeatB[i], table.SpecificHeatC[i],
+                            table.SpecificHeatD[i]},
+                           table.MolecularWeights[i], table.StandardTemperature, isField);
+        heat.value.push_back(capacity.value);
+        heat.slope.push_back(capacity.slope);
     }
     return heat;
 }
@@ -176,10 +144,8 @@ void ThermalExportFileWriter::WriteSections(std::ostream& out,
     using Converter = double (*)(double);
     const bool isField = unitType == Units::FIELD;
     const SpecificHeat heat = SpecificHeatOf(table, isField);
-    const std::vector<double> heatVaps =
-        Scaled(table.GetHeatVaps(), isField ? joulePerKilojoule : 1.0);
-    const std::vector<double> compressibilities =
-        Scaled(table.GetCRefs(), unitType == Units::METRIC ? pascalPerBar : 1.0);
+    const Converter compressibilityToMetric =
+        unitType == Units::METRIC ? PerPascalToPerBar : nullptr;
     const auto write = [&](const char* keyword, const char* title, const char* fieldUnits,
                            const char* metricUnits, const std::vector<double>& values,
                            Converter toField = nullptr, Converter toMetric = nullptr) {
@@ -205,8 +171,8 @@ void ThermalExportFileWriter::WriteSections(std::ostream& out,
     write("SPECHB",   "Oil Component Specific Heat 2nd Coeff",           "Btu/ lb/ R/ R", "kJ/ kg/ K/ K", heat.slope);
     write("SPECHG",   "Gas Component Specific Heat 1st Coeff",           "Btu/ lb/ R",    "kJ/ kg/ K",    heat.value);
     write("SPECHH",   "Gas Component Specific Heat 2nd Coeff",           "Btu/ lb/ R/ R", "kJ/ kg/ K/ K", heat.slope);
-    write("HEATVAPS", "Heat of Vapourisation at Standard Temp",          "Btu/ lb",       "kJ/ kg",       heatVaps,                    Units::SpecificLatentHeatOfVaporization_JPerkg_To_btuPerlb);
-    write("CREF",     "Oil Component Compressibilities",                 "/psi",          "/bar",         compressibilities,           Units::Compressibility_perPa_To_perpsi);
+    write("HEATVAPS", "Heat of Vapourisation at Standard Temp",          "Btu/ lb",       "kJ/ kg",       table.GetHeatVaps(),         HeatOfVaporisationToField);
+    write("CREF",     "Oil Component Compressibilities",                 "/psi",          "/bar",         table.GetCRefs(),            Units::Compressibility_perPa_To_perpsi, compressibilityToMetric);
     write("THERMEX1", "Thermal Expansion Coefficient 1 (Reservoir EoS)", "1/F",           "1/C",          table.GetThermEx1s(),        ConvertInverseTemperatureToField);
     write("ZFACTOR",  "Z-Factors (Reservoir EoS)",                       "",              "",             table.GetZFactors());
     if (table.HasCrookstonData()) {

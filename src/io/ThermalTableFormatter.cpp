@@ -1,6 +1,8 @@
 #include "io/ThermalTableFormatter.h"
 
+#include "FileNumber.h"
 #include "NumberText.h"
+#include "ThermalUnits.h"
 
 #include <iomanip>
 #include <string_view>
@@ -16,15 +18,6 @@ namespace {
 constexpr std::string_view aheadOfCount = "       \t";
 constexpr std::string_view aheadOfValue = "           \t";
 constexpr int fitWidth = 24;
-
-constexpr double pascalPerBar = 100000.0;
-
-double AsItIs(double value) {
-    return value;
-}
-double PerPascalToPerBar(double value) {
-    return value * pascalPerBar;
-}
 
 // One row of the K-value fit for each coefficient.
 struct FitUnits {
