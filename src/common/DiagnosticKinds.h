@@ -129,6 +129,20 @@ inline constexpr DiagnosticKind heatLine         {"keywords.heat-line", Note};
 inline constexpr DiagnosticKind waterDensity     {"keywords.water-density", Note};
 
 } // namespace KeywordKinds
+namespace MflKinds {
+
+using enum FluidBench::IO::Severity;
+
+inline constexpr DiagnosticKind form             {"mfl.form", Error};
+inline constexpr DiagnosticKind keyword          {"mfl.keyword", Error};
+inline constexpr DiagnosticKind table            {"mfl.table", Error};
+inline constexpr DiagnosticKind row              {"mfl.row", Error};
+inline constexpr DiagnosticKind value            {"mfl.value", Error};
+inline constexpr DiagnosticKind lineTooLong      {"mfl.line-too-long", Error};
+inline constexpr DiagnosticKind incomplete       {"mfl.incomplete", Error};
+inline constexpr DiagnosticKind tooMany          {"mfl.too-many", Error};
+
+} // namespace MflKinds
 // clang-format on
 
 } // namespace Orv::FluidBench::Impl::IO

@@ -46,8 +46,19 @@ std::string ImportCommand::GetCommandName() const {
 
 ErrorReport ImportCommand::Import(CompositionalFluidCommand& fluidCommand,
                                   std::vector<std::vector<double>>& streams) const {
+    return Import(fluidCommand, streams, {});
+}
+
+ErrorReport ImportCommand::ImportForTarn(CompositionalFluidCommand& fluidCommand,
+                                         TarnExtraData& extraData) const {
+    return ImportForTarn(fluidCommand, extraData, {});
+}
+
+ErrorReport ImportCommand::Import(CompositionalFluidCommand& fluidCommand,
+                                  std::vector<std::vector<double>>& streams,
+                                  const ImportProblemSink& tell) const {
     MflContent content;
-    ErrorReport report = ReadMflText(fileName_, content);
+    ErrorReport report = ReadMflText(fileName_, content, tell);
     if (!report.HasErrors()) {
         fluidCommand = std::move(content.fluid);
         streams = std::move(content.streams);
@@ -56,8 +67,9 @@ ErrorReport ImportCommand::Import(CompositionalFluidCommand& fluidCommand,
 }
 
 ErrorReport ImportCommand::ImportForTarn(CompositionalFluidCommand& fluidCommand,
-                                         TarnExtraData& extraData) const {
-    return Import(fluidCommand, extraData.Streams);
+                                         TarnExtraData& extraData,
+                                         const ImportProblemSink& tell) const {
+    return Import(fluidCommand, extraData.Streams, tell);
 }
 
 } // namespace Orv::FluidBench::Impl::Command

@@ -1,19 +1,18 @@
 #include "MflText.h"
 
 #include "FluidBench/Common/Message.h"
+#include "LineReader.h"
+#include "NumberText.h"
+#include "Quote.h"
+#include "TextFile.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <cmath>
+#include <cerrno>
 #include <exception>
-#include <filesystem>
-#include <fstream>
 #include <iterator>
-#include <locale>
 #include <optional>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 namespace Orv::FluidBench::Impl::Command {
@@ -25,6 +24,10 @@ using Common::pvtEnumErrorType;
 using Common::pvtEnumUnitFraction;
 using Common::pvtEnumViscosityMethod;
 using Model::FluidComponent;
+using Text::LineReader;
+using Text::Quote;
+using Text::TextKind;
+using Kind = ImportProblem::Kind;
 
 namespace {
 
@@ -94,6 +97,8 @@ constexpr std::size_t mostComponents = 1000;
 // Nobody reads more messages than that, and a report of them all can take far more memory than the
 // file.
 constexpr std::size_t mostFailures = 1000;
+// No line that means something is longer, and a line is held in memory.
+constexpr std::size_t longestLine = std::size_t{1} << 20;
 
 const auto* FindWord(const auto& meanings, std::string_view word) {
     using Entry = std::remove_reference_t<decltype(*std::begin(meanings))>;
@@ -101,28 +106,10 @@ const auto* FindWord(const auto& meanings, std::string_view word) {
     return found == std::end(meanings) ? nullptr : &*found;
 }
 
-// Text from the file as a message shows it: short, and without what would upset a terminal.
-std::string Shown(std::string_view text) {
-    constexpr std::size_t longest = 40;
-    std::string shown(text.substr(0, longest));
-    std::ranges::replace_if(
-        shown, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; }, '?');
-    return "'" + shown + (text.size() > longest ? "...'" : "'");
-}
-
-// The number that the whole word is. An infinity or a not-a-number is none.
-std::optional<double> Number(std::string_view word) {
-    double value = 0.0;
-    const char* const end = word.data() + word.size();
-    const auto [behind, error] = std::from_chars(word.data(), end, value);
-    const bool isNumber = error == std::errc() && behind == end && std::isfinite(value);
-    return isNumber ? std::optional(value) : std::nullopt;
-}
-
 class Reader {
 public:
-    Reader(const std::string& fileName, MflContent& content)
-        : fileName_(fileName), content_(content) {}
+    Reader(const std::string& fileName, MflContent& content, const ImportProblemSink& tell)
+        : fileName_(fileName), content_(content), tell_(tell) {}
 
     ErrorReport Read();
 
@@ -152,6 +139,7 @@ private:
         double factor; // to the model's unit
     };
 
+    void ReadLines(LineReader& lines);
     void ReadLine(const Words& words);
     void ReadForm(const Words& words);
     void ReadKeyword(const Words& words);
@@ -162,6 +150,7 @@ private:
     void ReadStream(const Words& words);
     void EndTable();
     void EndFile();
+    void RefuseOddText(TextKind kind);
 
     void SetName(const Words& words) { content_.fluid.name = words[1]; }
     void SetEoS(const Words& words) { Set(content_.fluid.eos, equationsOfState, words); }
@@ -182,15 +171,16 @@ private:
     double NumberOf(std::string_view word, std::string_view meaning);
     template <typename Operation>
     void Try(Operation operation);
-    void Fail(const std::string& what);
-    void Tell(const std::string& text);
+    void Fail(Kind kind, const std::string& what);
+    void Tell(Kind kind, const std::string& place, const std::string& what);
 
     const std::string& fileName_;
     MflContent& content_;
+    const ImportProblemSink& tell_;
     ErrorReport report_;
     std::size_t failures_ = 0;
     State state_ = State::Form;
-    std::size_t line_ = 0;
+    std::uint64_t line_ = 0;
     bool isOver_ = false;
     std::array<bool, 7> isGiven_{}; // which keywords came
     std::vector<Column> columns_;
@@ -207,28 +197,53 @@ const std::array<Reader::Keyword, 7> Reader::keywords = {{
 }};
 
 ErrorReport Reader::Read() {
-    std::ifstream file;
-    file.imbue(std::locale::classic());
-    std::error_code error;
-    if (!std::filesystem::is_directory(fileName_, error)) {
-        file.open(fileName_);
-    }
+    errno = 0;
+    std::ifstream file = Text::OpenForReading(fileName_);
     if (!file.is_open()) {
-        Tell("The file '" + fileName_ + "' can't be opened");
+        Tell(Kind::CantOpen, "The file '" + fileName_ + "' can't be opened: ",
+             "expected a file to read, found " + Text::WhyNotReadable(fileName_));
         return std::move(report_);
     }
-    std::string line;
+    LineReader lines(file, longestLine, LineReader::BehindCut::NextLine);
+    RefuseOddText(lines.Kind());
+    ReadLines(lines);
+    return std::move(report_);
+}
+
+void Reader::ReadLines(LineReader& lines) {
     Words words;
-    while (!isOver_ && std::getline(file, line)) {
-        ++line_;
-        if (Split(line, words) && !words.empty()) {
+    for (std::string_view line; !isOver_ && lines.Next(line);) {
+        if (line.empty()) {
+            continue;
+        }
+        line_ = lines.Number();
+        if (lines.IsCut()) {
+            Fail(Kind::LineTooLong, "expected a line, or a comment, of at most " +
+                                        std::to_string(longestLine) +
+                                        " characters, found a longer one");
+        } else if (Split(line, words) && !words.empty()) {
             ReadLine(words);
         }
     }
-    if (!isOver_) {
+    if (lines.HasFailed()) {
+        line_ = lines.Number();
+        Fail(Kind::ReadFailed, "expected to read on, found a failure of the file or its disk; what "
+                               "is behind this line wasn't read");
+    } else if (!isOver_) {
         EndFile();
     }
-    return std::move(report_);
+}
+
+void Reader::RefuseOddText(TextKind kind) {
+    isOver_ = kind != TextKind::Plain;
+    line_ = isOver_ ? 1 : 0;
+    if (kind == TextKind::Utf16) {
+        Fail(Kind::Utf16, "expected text in UTF-8 or ASCII, found what looks like UTF-16: save the "
+                          "file as UTF-8");
+    } else if (kind == TextKind::CarriageReturns) {
+        Fail(Kind::CarriageReturns, "expected lines that end in newlines, found carriage returns "
+                                    "alone: save the file with other line ends");
+    }
 }
 
 void Reader::ReadLine(const Words& words) {
@@ -259,7 +274,8 @@ void Reader::ReadLine(const Words& words) {
 
 void Reader::ReadForm(const Words& words) {
     if (words != Words{"MFL", "1"}) {
-        Fail("the first line must read MFL 1; this isn't an MFL file of that form");
+        Fail(Kind::Form, "expected the first line to read MFL 1, found " + Quote(words[0]) +
+                             "; this isn't an MFL file of that form");
         isOver_ = true;
     }
     state_ = State::Keyword;
@@ -268,16 +284,18 @@ void Reader::ReadForm(const Words& words) {
 void Reader::ReadKeyword(const Words& words) {
     const auto* const keyword = FindWord(keywords, words[0]);
     if (keyword == nullptr) {
-        Fail("expected a keyword, found " + Shown(words[0]));
+        Fail(Kind::Keyword, "expected a keyword, found " + Quote(words[0]));
         return;
     }
     bool& isGiven = isGiven_[static_cast<std::size_t>(keyword - keywords.data())];
     if (std::exchange(isGiven, true)) {
-        Fail(std::string(keyword->word) + " is there twice");
+        Fail(Kind::Keyword, "expected " + std::string(keyword->word) + " once, found it twice");
     }
     if (words.size() != keyword->arguments + 1) {
-        Fail(std::string(keyword->word) +
-             (keyword->arguments == 0 ? " stands alone on its line" : " takes one word"));
+        Fail(Kind::Keyword, "expected " +
+                                std::string(keyword->arguments == 0 ? "no word" : "one word") +
+                                " behind " + std::string(keyword->word) + ", found " +
+                                std::to_string(words.size() - 1));
     }
     if (words.size() > keyword->arguments) {
         (this->*keyword->action)(words);
@@ -295,7 +313,8 @@ void Reader::Set(Value& target, const Meaning<Value> (&meanings)[n], const Words
         known += known.empty() ? "" : ", ";
         known += meaning.word;
     }
-    Fail(std::string(words[0]) + " must be one of " + known + "; found " + Shown(words[1]));
+    Fail(Kind::Keyword, "expected " + std::string(words[0]) + " to be one of " + known +
+                            "; found " + Quote(words[1]));
 }
 
 void Reader::ReadHeadings(const Words& words) {
@@ -303,7 +322,8 @@ void Reader::ReadHeadings(const Words& words) {
     columns_.clear();
     if (words.size() < fixedColumns || words[nameColumn] != "NAME" ||
         words[fractionColumn] != "FRACTION") {
-        Fail("the headings must begin with NAME FRACTION");
+        Fail(Kind::Table,
+             "expected headings that begin with NAME FRACTION, found " + Quote(words[0]));
         state_ = State::Skipped;
         return;
     }
@@ -311,7 +331,9 @@ void Reader::ReadHeadings(const Words& words) {
         const auto* const property = std::ranges::find(properties, words[i], &Property::heading);
         const bool isKnown = property != std::end(properties);
         if (!isKnown || std::ranges::count(words, words[i]) > 1) {
-            Fail(Shown(words[i]) + (isKnown ? " heads two columns" : " isn't a known heading"));
+            Fail(Kind::Table, "expected a heading " +
+                                  std::string(isKnown ? "once" : "that is known") + ", found " +
+                                  Quote(words[i]) + (isKnown ? " above two columns" : ""));
             state_ = State::Skipped;
             return;
         }
@@ -323,7 +345,10 @@ void Reader::ReadUnits(const Words& words) {
     state_ = State::Component;
     if (words.size() != fixedColumns + columns_.size() || words[nameColumn] != "-" ||
         words[fractionColumn] != "-") {
-        Fail("expected a unit for each heading, and - for a number without one");
+        Fail(Kind::Table, "expected a unit for each of " +
+                              std::to_string(fixedColumns + columns_.size()) +
+                              " headings, and - for a number without one; found " +
+                              std::to_string(words.size()) + " words");
         state_ = State::Skipped;
         return;
     }
@@ -331,7 +356,8 @@ void Reader::ReadUnits(const Words& words) {
         const std::string_view word = words[fixedColumns + i];
         const auto* const unit = FindWord(columns_[i].property->units, word);
         if (unit == nullptr) {
-            Fail(Shown(word) + " isn't a unit of " + std::string(columns_[i].property->heading));
+            Fail(Kind::Table, "expected a unit of " + std::string(columns_[i].property->heading) +
+                                  ", found " + Quote(word));
             state_ = State::Skipped;
             return;
         }
@@ -343,46 +369,53 @@ void Reader::ReadUnits(const Words& words) {
 // fluid, and later lines that name the component aren't wrong for it.
 void Reader::ReadComponent(const Words& words) {
     if (words.size() != fixedColumns + columns_.size()) {
-        Fail("expected " + std::to_string(fixedColumns + columns_.size()) + " columns, found " +
-             std::to_string(words.size()));
+        Fail(Kind::Row, "expected " + std::to_string(fixedColumns + columns_.size()) +
+                            " columns, found " + std::to_string(words.size()));
         return;
     }
     const std::string name(words[nameColumn]);
     if (content_.fluid.Find(name)) {
-        Fail("there is a component " + Shown(name) + " already");
+        Fail(Kind::Row, "expected each component once, found " + Quote(name) + " again");
         return;
     }
     if (content_.fluid.Components().size() == mostComponents) {
-        Fail("a fluid can't have more than " + std::to_string(mostComponents) + " components");
+        Fail(Kind::TooMany, "expected at most " + std::to_string(mostComponents) +
+                                " components, found more; the rest of the file wasn't read");
         isOver_ = true;
         return;
     }
-    Try([&] {
-        FluidComponent component(name);
-        for (std::size_t i = 0; i < columns_.size(); ++i) {
-            const auto& [property, factor] = columns_[i];
-            const std::string_view word = words[fixedColumns + i];
-            if (word != noValue) {
-                const double value = NumberOf(word, property->heading);
-                Try([&] { (component.*property->set)(value * factor); });
-            }
+    std::optional<FluidComponent> component;
+    Try([&] { component.emplace(name); });
+    if (!component) {
+        return;
+    }
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+        const auto& [property, factor] = columns_[i];
+        const std::string_view word = words[fixedColumns + i];
+        if (word != noValue) {
+            const double value = NumberOf(word, property->heading);
+            Try([&] { (*component.*property->set)(value * factor); });
         }
-        const double fraction = NumberOf(words[fractionColumn], "FRACTION");
-        content_.fluid.SetComponent(component, 0.0); // stays if the fraction is refused
-        content_.fluid.SetComponent(component, fraction);
+    }
+    const double fraction = NumberOf(words[fractionColumn], "FRACTION");
+    Try([&] {
+        content_.fluid.SetComponent(*component, 0.0); // stays if the fraction is refused
+        content_.fluid.SetComponent(*component, fraction);
     });
 }
 
 void Reader::ReadCoefficient(const Words& words) {
     if (words.size() != 3) {
-        Fail("expected two components and their coefficient");
+        Fail(Kind::Row, "expected two components and their coefficient, found " +
+                            std::to_string(words.size()) +
+                            (words.size() == 1 ? " word" : " words"));
         return;
     }
     const std::string first(words[0]);
     const std::string second(words[1]);
     const double value = NumberOf(words[2], "the coefficient");
     if (content_.fluid.Coefficient(first, second)) {
-        Fail("the coefficient of these two is there already");
+        Fail(Kind::Row, "expected the coefficient of these two once, found it again");
         return;
     }
     Try([&] { content_.fluid.SetCoefficient(first, second, value); });
@@ -391,8 +424,8 @@ void Reader::ReadCoefficient(const Words& words) {
 void Reader::ReadStream(const Words& words) {
     const std::size_t n = content_.fluid.Components().size();
     if (words.size() != n) {
-        Fail("expected one amount for each of the " + std::to_string(n) + " components, found " +
-             std::to_string(words.size()));
+        Fail(Kind::Row, "expected one amount for each of the " + std::to_string(n) +
+                            " components, found " + std::to_string(words.size()));
         return;
     }
     std::vector<double>& stream = content_.streams.emplace_back();
@@ -403,18 +436,18 @@ void Reader::ReadStream(const Words& words) {
 
 void Reader::EndTable() {
     if (state_ == State::Headings || state_ == State::Units) {
-        Fail("the table ends ahead of its headings and units");
+        Fail(Kind::Table, "expected headings and units, found the end of the table");
     }
     state_ = State::Keyword;
 }
 
 void Reader::EndFile() {
     if (state_ == State::Form) {
-        Fail("the file is empty");
+        Fail(Kind::Form, "expected the first line to read MFL 1, found an empty file");
     } else if (state_ != State::Keyword) {
-        Fail("the file ends inside a table; its END is missing");
+        Fail(Kind::Incomplete, "expected END behind the table, found the end of the file");
     } else if (content_.fluid.Components().empty() && !report_.HasErrors()) {
-        Fail("the file has no components");
+        Fail(Kind::Incomplete, "expected COMPONENTS, found a file without components");
     }
 }
 
@@ -432,7 +465,7 @@ bool Reader::Split(std::string_view line, Words& words) {
         line.remove_prefix(isQuoted ? 1 : 0);
         const std::size_t end = isQuoted ? line.find('"') : line.find_first_of(space);
         if (isQuoted && end == std::string_view::npos) {
-            Fail("a double quote isn't closed");
+            Fail(Kind::Row, "expected a second double quote on the line, found one alone");
             return false;
         }
         words.push_back(line.substr(0, end));
@@ -442,45 +475,50 @@ bool Reader::Split(std::string_view line, Words& words) {
 }
 
 double Reader::NumberOf(std::string_view word, std::string_view meaning) {
-    const auto number = Number(word);
-    if (!number) {
-        Fail(std::string(meaning) + " must be a number, found " + Shown(word));
+    double number = 0.0;
+    if (!Text::ParseNumber(word, number)) {
+        Fail(Kind::Value,
+             "expected " + std::string(meaning) + " to be a number, found " + Quote(word));
     }
-    return number.value_or(0.0);
+    return number;
 }
 
-// What the model refuses becomes a message.
+// What the model refuses becomes a message. The operation calls the model alone, not the sink.
 template <typename Operation>
 void Reader::Try(Operation operation) {
     try {
         operation();
     } catch (const std::exception& error) {
-        Fail(error.what());
+        Fail(Kind::Value, error.what());
     }
 }
 
-void Reader::Fail(const std::string& what) {
+void Reader::Fail(Kind kind, const std::string& what) {
     if (failures_ == mostFailures) {
         return;
     }
     ++failures_;
     const std::string place = fileName_ + ":" + std::to_string(line_) + ": ";
-    Tell(place + what);
+    Tell(kind, place, what);
     if (failures_ == mostFailures) {
-        Tell(place + "too many errors; the rest of the file wasn't read");
+        Tell(Kind::TooMany, place, "too many errors; the rest of the file wasn't read");
         isOver_ = true;
     }
 }
 
-void Reader::Tell(const std::string& text) {
-    report_.Add(
-        {pvtEnumErrorType::General, pvtEnumErrorCode::Error, 1001, std::vector<std::string>{text}});
+void Reader::Tell(Kind kind, const std::string& place, const std::string& what) {
+    if (tell_) {
+        tell_({kind, line_, what});
+    }
+    report_.Add({pvtEnumErrorType::General, pvtEnumErrorCode::Error, 1001,
+                 std::vector<std::string>{place + what}});
 }
 
 } // namespace
 
-ErrorReport ReadMflText(const std::string& fileName, MflContent& content) {
-    return Reader(fileName, content).Read();
+ErrorReport ReadMflText(const std::string& fileName, MflContent& content,
+                        const ImportProblemSink& tell) {
+    return Reader(fileName, content, tell).Read();
 }
 
 } // namespace Orv::FluidBench::Impl::Command

@@ -4,6 +4,7 @@
 
 #include "CompositionalFluidCommand.h"
 #include "FluidBench/Common/ErrorReport.h"
+#include "FluidBench/Impl/Command/ImportCommand.h"
 
 #include <string>
 #include <vector>
@@ -17,7 +18,8 @@ struct MflContent {
 };
 
 /// Reads the file into `content`, which is of no use when the report has errors. The form's layout
-/// is drawn at ImportCommand.
-Common::ErrorReport ReadMflText(const std::string& fileName, MflContent& content);
+/// is drawn at ImportCommand. Each message of the report goes to `tell`, too, which may be empty.
+Common::ErrorReport ReadMflText(const std::string& fileName, MflContent& content,
+                                const ImportProblemSink& tell);
 
 } // namespace Orv::FluidBench::Impl::Command
