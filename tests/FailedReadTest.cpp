@@ -1,0 +1,89 @@
+// Files of every format whose disk fails while they are read: nobody takes that for their end.
+#include "Diagnosed.h"
+#include "FailingRead.h"
+#include "TestSupport.h"
+#include "io/BlackOilExportFileWriter.h"
+#include "io/DFAReader.h"
+#include "io/MFLFileReader.h"
+#include "io/PVOFileReader.h"
+
+#include <functional>
+
+using namespace Orv::FluidBench;
+using namespace FluidBenchTest;
+
+namespace {
+
+std::string Sample(const std::string& name) {
+    return ReadFile(FLUIDBENCH_EXAMPLE_DATA "/" + name);
+}
+
+bool DeckIsRead(const std::string& file, bool detectUnits) {
+    IO::PVOFileReader reader;
+    reader.SetPVOName(file);
+    Model::CompositionalFluid fluid("");
+    return !reader.Read(fluid, detectUnits).HasErrors();
+}
+
+bool MflIsRead(const std::string& file) {
+    Diagnosed diagnosed;
+    IO::MFLFileReader reader;
+    reader.SetMFLFileName(file);
+    reader.SetDiagnosticSink(diagnosed.Sink());
+    Model::CompositionalFluid fluid("as it was");
+    const bool isRead = !reader.Read(fluid).HasErrors();
+    EXPECT_EQ(diagnosed.Take().ends_with(":read-failed"), !isRead);
+    EXPECT_EQ(fluid.GetName() == "as it was", !isRead);
+    return isRead;
+}
+
+bool BlackOilIsRead(const std::string& file) {
+    Diagnosed diagnosed;
+    IO::BlackOilExportFileWriter reader;
+    reader.SetDiagnosticSink(diagnosed.Sink());
+    reader.GetTableFromCSVFile(file);
+    return diagnosed.Take(IO::Severity::Error).empty();
+}
+
+} // namespace
+
+TEST(FailedReads, AreNotTakenForTheEnd) {
+    const std::string lines(100'000, '\n');
+    struct Case {
+        const char* format;
+        std::string file;
+        std::string content; // whole ahead of what may be lost, but for decks
+        std::function<bool(const std::string& file)> isRead;
+    };
+    const TemporaryFolder folder;
+    const auto dfaIsRead = [&](const std::string&) {
+        IO::DFAReader reader;
+        const bool isRead = reader.Import(folder / "WELL_DFA.txt");
+        EXPECT_EQ(reader.GetExtractedData().empty(), !isRead);
+        return isRead;
+    };
+    const std::string deck = ReadData("deck-export/six-component-fluid-field.pvo");
+    const Case cases[] = {
+        {"deck", "fluid.dat", deck + lines,
+         [](const auto& file) { return DeckIsRead(file, false); }},
+        {"units", "units.dat", deck + lines,
+         [](const auto& file) { return DeckIsRead(file, true); }},
+        {"MFL", "fluid.mfl", Sample("six-component-oil.mfl") + lines, MflIsRead},
+        {"black oil", "oil.csv", Sample("reservoir-black-oil.csv") + lines, BlackOilIsRead},
+        {"DFA", "WELL_DFA.txt", Sample("north-field_DFA.txt") + lines, dfaIsRead},
+        {"FT", "WELL_FT.txt", Sample("north-field_FT.txt") + lines, dfaIsRead},
+    };
+    for (const Case& each : cases) {
+        folder.Write(each.file, each.content);
+    }
+    for (const Case& each : cases) {
+        const std::string file = folder / each.file;
+        EXPECT_TRUE(each.isRead(file)) << each.format;
+        for (const std::size_t byte :
+             {std::size_t{0}, std::size_t{100}, std::size_t{70'000}, each.content.size()}) {
+            FailReads(file, byte);
+            EXPECT_FALSE(each.isRead(file)) << each.format << " at " << byte;
+            FailReads("", 0);
+        }
+    }
+}
