@@ -1,6 +1,7 @@
 // What the deck writer writes, the deck reader reads back: a property over generated fluids.
 #include "FluidBench/Utilities/Strings.h"
 #include "TestSupport.h"
+#include "io/DeckNames.h"
 #include "io/PVOFileReader.h"
 #include "io/PVOFileWriter.h"
 
@@ -175,5 +176,36 @@ TEST(DeckRoundTripTest, EveryFluidThatCanComeBackDoes) {
                 ExpectSameFluid(written, read);
             }
         }
+    }
+}
+
+TEST(DeckRoundTripTest, TellsWhichNamesDoNotComeBack) {
+    const std::pair<std::string, const char*> names[] = {
+        {"C1", nullptr},
+        {"it's", nullptr},
+        {"a/b", nullptr},
+        {"2--", nullptr},
+        {"'q'", nullptr},
+        {"a'--b", "becomes 'a'."},
+        {"C1' /", "becomes no name that can be read."},
+        {"C7", nullptr},
+        {"C 7", "becomes the same as that of 'C7'."},
+        {" C8", "becomes 'C8'."},
+        {"C\n9", "becomes no name that can be read."},
+        {std::string(20'000, 'C'), "becomes no name that can be read."},
+    };
+    CompositionalFluid fluid("");
+    std::vector<std::string> expected;
+    for (const auto& [name, change] : names) {
+        fluid.SetComponent(FluidComponent(name), 0.1);
+        if (change != nullptr) {
+            expected.emplace_back(change);
+        }
+    }
+    const auto told = IO::NamesThatADeckChanges(fluid);
+    ASSERT_EQ(told.size(), expected.size());
+    for (std::size_t i = 0; i < told.size(); ++i) {
+        EXPECT_TRUE(told[i].sentence.ends_with(expected[i])) << told[i].sentence;
+        EXPECT_EQ(told[i].code, "deck.name-changed");
     }
 }

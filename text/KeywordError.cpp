@@ -6,15 +6,29 @@ std::string Describe(const FilePlace& place) {
     return (place.file.empty() ? "line " : place.file + ", line ") + std::to_string(place.line);
 }
 
+KeywordFileError::KeywordFileError(const FilePlace& place, std::string_view separator,
+                                   const std::string& sentence)
+    : std::runtime_error(Describe(place) + std::string(separator) + sentence),
+      place_(place),
+      sentence_(sentence) {}
+
 KeywordError::KeywordError(const FilePlace& place, std::string_view keyword,
                            const std::string& expected, const std::string& found)
-    : std::runtime_error(Describe(place) + (keyword.empty() ? "" : ", keyword ") +
-                         std::string(keyword) + ": expected " + expected + ", found " + found +
-                         ".") {}
+    : KeywordFileError(place, keyword.empty() ? ": " : ", ",
+                       (keyword.empty() ? "" : "keyword " + std::string(keyword) + ": ") +
+                           "expected " + expected + ", found " + found + ".") {}
 
 ReadFailed::ReadFailed(const FilePlace& place)
-    : std::runtime_error(Describe(place) +
-                         ": expected to read on, found a failure of the file or its disk."),
-      place_(place) {}
+    : KeywordFileError(place, ": ",
+                       "expected to read on, found a failure of the file or its disk.") {}
+
+OddText::OddText(const FilePlace& place, TextKind kind)
+    : KeywordFileError(place, ": ",
+                       kind == TextKind::Utf16
+                           ? "expected text in UTF-8 or ASCII, found what looks like UTF-16: save "
+                             "the file as UTF-8."
+                           : "expected lines that end in newlines, found carriage returns alone: "
+                             "save the file with other line ends."),
+      kind_(kind) {}
 
 } // namespace Orv::Text

@@ -13,11 +13,8 @@ namespace {
 // A keyword file is read more than once and from the middle, which only a regular file allows. It
 // also keeps away from what never ends.
 std::unique_ptr<std::ifstream> Open(const std::string& name) {
-    std::error_code error;
-    const auto status = std::filesystem::status(PathOf(name), error);
-    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status) &&
-        !std::filesystem::is_directory(status)) {
-        throw std::runtime_error("no regular file");
+    if (!IsRegularFile(name)) {
+        throw std::runtime_error(WhyNotReadable(name));
     }
     auto file = std::make_unique<std::ifstream>(OpenForReading(name));
     if (!file->is_open()) {
@@ -29,17 +26,24 @@ std::unique_ptr<std::ifstream> Open(const std::string& name) {
 } // namespace
 
 KeywordFile::KeywordFile(const std::string& name) : name_(name), file_(Open(name)), input_(*file_) {
-    Ahead();
+    RequirePlainText();
 }
 
 KeywordFile::KeywordFile(std::istream& stream, std::string name)
     : name_(std::move(name)), input_(stream) {
-    Ahead();
+    RequirePlainText();
 }
 
 void KeywordFile::MoveTo(std::uint64_t offset, std::uint64_t line) {
     input_.MoveTo(offset);
     line_ = line;
+}
+
+void KeywordFile::RequirePlainText() {
+    Ahead();
+    if (input_.Kind() != TextKind::Plain) {
+        throw OddText({name_, line_}, input_.Kind());
+    }
 }
 
 void KeywordFile::RequireEnd() const {

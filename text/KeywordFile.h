@@ -18,11 +18,12 @@ namespace Orv::Text {
 class KeywordFile {
 public:
     /// Opens the file, owns it, and stands at its first character. Throws `std::runtime_error`,
-    /// with what was found in place of a file to read, where there is no regular file to read.
+    /// with what was found in place of a file to read, where there is no regular file to read, and
+    /// `OddText` where it isn't plain text.
     explicit KeywordFile(const std::string& name);
 
     /// Stands at the first character of the stream, which belongs to the caller and outlives the
-    /// object. The name is what messages call it.
+    /// object. The name is what messages call it. Throws `OddText`.
     KeywordFile(std::istream& stream, std::string name);
 
     const std::string& Name() const noexcept { return name_; }
@@ -30,8 +31,6 @@ public:
     std::uint64_t Offset() const noexcept { return input_.Offset(); }
     /// The line of the position; the first line is 1.
     std::uint64_t Line() const noexcept { return line_; }
-    /// What the text looks like.
-    TextKind Kind() { return input_.Kind(); }
 
     /// Goes to where `Offset` and `Line` gave these values. Only for files and for streams that can
     /// seek.
@@ -62,6 +61,7 @@ public:
     }
 
 private:
+    void RequirePlainText();
     void RequireEnd() const;
 
     std::string name_;

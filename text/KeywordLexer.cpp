@@ -3,6 +3,7 @@
 #include "Characters.h"
 #include "KeywordError.h"
 #include "NumberText.h"
+#include "OddCharacters.h"
 #include "Quote.h"
 
 #include <algorithm>
@@ -14,6 +15,7 @@ namespace {
 
 using Kind = Token::Kind;
 
+constexpr std::size_t longestShown = 80; // of the text behind an open quote
 constexpr std::size_t veryLongLine = std::size_t{64} * 1024;
 
 constexpr bool IsBlank(char c) noexcept {
@@ -64,15 +66,20 @@ bool Separates(std::string_view rest) noexcept {
            rest.starts_with("--");
 }
 
+std::string WithOddCharacter(std::string_view text) {
+    const std::string odd = NameOddCharacter(text);
+    return odd.empty() ? odd : " with " + odd;
+}
+
 } // namespace
 
 std::string Describe(const Token& token) {
     switch (token.kind) {
     case Kind::Word:
     case Kind::Quoted:
-        return Quote(token.text);
+        return Quote(token.text) + WithOddCharacter(token.text);
     case Kind::OpenQuote:
-        return "a quote that isn't closed on its line";
+        return "a quote that isn't closed on its line, ahead of " + Quote(token.text);
     case Kind::TooLong:
         return "an item of more than " + std::to_string(KeywordLexer::longestItem) + " characters";
     case Kind::Slash:
@@ -100,7 +107,9 @@ void KeywordLexer::MoveTo(std::uint64_t offset, std::uint64_t line) {
     openQuotesEnd_[0] = openQuotesEnd_[1] = 0;
 }
 
-Token KeywordLexer::Next() {
+// What both kinds of text have in common.
+template <typename IsSlash, typename ReadBare>
+Token KeywordLexer::NextToken(IsSlash isSlash, ReadBare readBare) {
     for (;;) {
         const std::string_view ahead = AtLeastAhead(2);
         if (ahead.empty()) {
@@ -116,7 +125,7 @@ Token KeywordLexer::Next() {
         } else if (first == '\n') {
             PassNewline();
             return {Kind::LineEnd, {}, false};
-        } else if (first == '/') {
+        } else if (first == '/' && isSlash(ahead)) {
             Pass(1);
             return {Kind::Slash, {}, false};
         } else if (ahead.starts_with("--")) {
@@ -124,9 +133,22 @@ Token KeywordLexer::Next() {
             return {Kind::LineEnd, {}, false};
         } else {
             const bool isAtHeadOfLine = isAtHeadOfLine_;
-            return IsQuote(first) ? ReadQuoted(isAtHeadOfLine) : ReadWord(isAtHeadOfLine);
+            return IsQuote(first) ? ReadQuoted(isAtHeadOfLine) : readBare(isAtHeadOfLine);
         }
     }
+}
+
+Token KeywordLexer::Next() {
+    return NextToken([](std::string_view) { return true; },
+                     [this](bool isAtHeadOfLine) { return ReadWord(isAtHeadOfLine); });
+}
+
+Token KeywordLexer::NextPath() {
+    return NextToken(
+        [](std::string_view ahead) {
+            return ahead.size() == 1 || IsBlank(ahead[1]) || ahead[1] == '\n';
+        },
+        [this](bool isAtHeadOfLine) { return ReadPath(isAtHeadOfLine); });
 }
 
 std::size_t KeywordLexer::TakeNumber(double& number) {
@@ -214,12 +236,28 @@ Token KeywordLexer::ReadWord(bool isAtHeadOfLine) {
     return {isTooLong ? Kind::TooLong : Kind::Word, ahead.substr(0, length), isAtHeadOfLine};
 }
 
+Token KeywordLexer::ReadPath(bool isAtHeadOfLine) {
+    std::string_view ahead = AtLeastAhead(longestItem + 1);
+    std::size_t length = 0;
+    while (length < std::min(ahead.size(), longestItem + 1) && !IsBlank(ahead[length]) &&
+           ahead[length] != '\n') {
+        ++length;
+    }
+    const bool isTooLong = length > longestItem;
+    if (length > 1 && ahead[length - 1] == '/') {
+        --length;
+    }
+    Pass(length);
+    return {isTooLong ? Kind::TooLong : Kind::Word, ahead.substr(0, length), isAtHeadOfLine};
+}
+
 Token KeywordLexer::ReadQuoted(bool isAtHeadOfLine) {
     const std::size_t close = FindClosingQuote();
-    const std::string_view ahead = file_.Ahead();
+    const std::string_view ahead = AtLeastAhead(1 + longestShown);
     if (close == 0) {
         Pass(1);
-        return {Kind::OpenQuote, ahead.substr(0, 1), isAtHeadOfLine};
+        const std::string_view behind = ahead.substr(1, longestShown);
+        return {Kind::OpenQuote, behind.substr(0, behind.find_first_of("\r\n")), isAtHeadOfLine};
     }
     Pass(close + 1);
     return {Kind::Quoted, ahead.substr(1, close - 1), isAtHeadOfLine};

@@ -16,7 +16,8 @@ struct Token {
     enum class Kind {
         Word,      ///< what has no blanks, slashes and quotes around it: 16.04, 2*, 3*0.5, PR
         Quoted,    ///< text in single or double quotes, given without them
-        OpenQuote, ///< a quote that isn't closed on its line; the text behind it comes next
+        OpenQuote, ///< a quote that isn't closed on its line, given as the beginning of the text
+                   ///< behind it, which comes next
         TooLong,   ///< the first part of a word beyond `KeywordLexer::longestItem`; the rest comes
                    ///< next
         Slash,     ///< outside of quotes: the end of a record
@@ -79,6 +80,10 @@ public:
     /// next item may be anything else, or a number that `Next` has to give.
     std::size_t TakeNumber(double& number);
 
+    /// The next token where a path is expected: without quotes it goes up to a blank, with the
+    /// slashes in it but for one at its end.
+    Token NextPath();
+
     /// Passes the rest of the line, with its end.
     void SkipLine();
 
@@ -94,6 +99,9 @@ private:
     void ReadComment();
     Token ReadWord(bool isAtHeadOfLine);
     Token ReadQuoted(bool isAtHeadOfLine);
+    Token ReadPath(bool isAtHeadOfLine);
+    template <typename IsSlash, typename ReadBare>
+    Token NextToken(IsSlash isSlash, ReadBare readBare);
     std::size_t FindClosingQuote();
     std::string_view AtLeastAhead(std::size_t count);
     void Pass(std::size_t count) noexcept;

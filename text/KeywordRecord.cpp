@@ -2,7 +2,6 @@
 
 #include "KeywordItem.h"
 #include "NumberText.h"
-#include "Quote.h"
 
 #include <algorithm>
 #include <optional>
@@ -17,6 +16,8 @@ using Kind = Token::Kind;
 KeywordLexer Open(const KeywordPlace& place) {
     try {
         return KeywordLexer(place.line.file);
+    } catch (const KeywordFileError&) {
+        throw;
     } catch (const std::runtime_error& error) {
         throw KeywordError(place.line, place.keyword, "the file that was there before",
                            error.what());
@@ -26,7 +27,7 @@ KeywordLexer Open(const KeywordPlace& place) {
 } // namespace
 
 KeywordRecord::KeywordRecord(const KeywordPlace& place)
-    : keyword_(place.keyword), lexer_(Open(place)), line_(place.line.line) {
+    : keyword_(place.keyword), remark_(place.remark), lexer_(Open(place)), line_(place.line.line) {
     lexer_.MoveTo(place.offset, place.line.line);
 }
 
@@ -89,21 +90,33 @@ std::vector<std::string> KeywordRecord::ReadNames(const ItemCount& count) {
     return names;
 }
 
-std::size_t KeywordRecord::ReadWord(const std::vector<std::string>& words) {
+std::size_t KeywordRecord::ReadWord(std::span<const std::string_view> words, const Advise& advise) {
     std::string expected = "one of the words";
-    for (const std::string& word : words) {
-        expected += ' ' + word;
+    for (const std::string_view word : words) {
+        (expected += ' ') += word;
     }
-    const std::vector<std::string> found = ReadNames({1, 1, expected});
-    const auto word = std::ranges::find(words, Capitals(found.front()));
-    if (word == words.end()) {
-        Fail(expected, Quote(found.front()));
+    std::optional<std::size_t> index;
+    for (Token item = NextItem(expected); item.kind != Kind::Slash; item = NextItem(expected)) {
+        if (index) {
+            Fail(expected, Describe(item) + " behind it");
+        }
+        const bool isText = item.kind == Kind::Word || item.kind == Kind::Quoted;
+        const std::string found = isText ? Capitals(item.text) : std::string();
+        const auto word = std::ranges::find(words, found);
+        if (word == words.end()) {
+            Fail(expected, Describe(item) + (advise ? advise(found) : std::string()));
+        }
+        index = static_cast<std::size_t>(word - words.begin());
     }
-    return static_cast<std::size_t>(word - words.begin());
+    if (!index) {
+        Fail(expected, "'/'");
+    }
+    return *index;
 }
 
 void KeywordRecord::Fail(const std::string& expected, const std::string& found) const {
-    throw KeywordError({lexer_.File().Name(), line_}, keyword_, expected, found);
+    throw KeywordError({lexer_.File().Name(), line_}, keyword_, expected,
+                       remark_.empty() ? found : found + " (" + remark_ + ')');
 }
 
 // The next item of a record that should hold `meaning`, or its slash.

@@ -7,7 +7,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Orv::Text {
@@ -17,6 +19,7 @@ struct KeywordPlace {
     std::string keyword;
     FilePlace line;
     std::uint64_t offset = 0;
+    std::string remark; ///< what may explain a record that isn't as expected; often empty
 };
 
 /// How many items a record may have, and what they are altogether, for a message.
@@ -48,9 +51,12 @@ public:
     /// quote in it, is a name only in quotes.
     std::vector<std::string> ReadNames(const ItemCount& count);
 
+    /// What to say of a word in capitals that isn't taken; often nothing.
+    using Advise = std::function<std::string(std::string_view word)>;
+
     /// Reads the record as one of the words, in quotes or without and in either case, and gives its
     /// index. The words are in capitals.
-    std::size_t ReadWord(const std::vector<std::string>& words);
+    std::size_t ReadWord(std::span<const std::string_view> words, const Advise& advise = {});
 
     /// Throws a `KeywordError` for this keyword, at the line that was read last.
     [[noreturn]] void Fail(const std::string& expected, const std::string& found) const;
@@ -59,6 +65,7 @@ private:
     Token NextItem(const std::string& meaning);
 
     std::string keyword_;
+    std::string remark_;
     KeywordLexer lexer_;
     std::uint64_t line_;
 };

@@ -49,6 +49,11 @@ std::string WhyNotReadable(const std::string& fileName) {
                    ? "no file of that name"
                    : "a name that can't be looked up (" + error.message() + ")";
     }
+    if (!std::filesystem::is_regular_file(status)) {
+        return status.type() == std::filesystem::file_type::fifo
+                   ? "a pipe, which isn't a regular file"
+                   : "a device, which isn't a regular file";
+    }
     return "a file that can't be opened" +
            (reason != 0 ? " (" + std::generic_category().message(reason) + ")" : std::string());
 }

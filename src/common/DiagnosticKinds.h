@@ -143,6 +143,22 @@ inline constexpr DiagnosticKind incomplete       {"mfl.incomplete", Error};
 inline constexpr DiagnosticKind tooMany          {"mfl.too-many", Error};
 
 } // namespace MflKinds
+
+// Of deck reading, besides what the simulator has to say.
+namespace DeckKinds {
+
+using enum FluidBench::IO::Severity;
+
+inline constexpr DiagnosticKind noFluid          {"deck.no-fluid", Error};
+inline constexpr DiagnosticKind specificHeats    {"deck.specific-heats", Error};
+inline constexpr DiagnosticKind modelUnsupported {"deck.model-unsupported", Error};
+inline constexpr DiagnosticKind valueRefused     {"deck.value-refused", Error};
+inline constexpr DiagnosticKind valueDropped     {"deck.value-dropped", Warning};
+inline constexpr DiagnosticKind unitsAssumed     {"deck.units-assumed", Warning};
+inline constexpr DiagnosticKind otherUnits       {"deck.other-units", Warning};
+inline constexpr DiagnosticKind nameChanged      {"deck.name-changed", Warning};
+
+} // namespace DeckKinds
 // clang-format on
 
 } // namespace Orv::FluidBench::Impl::IO

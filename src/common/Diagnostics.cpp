@@ -5,6 +5,7 @@
 
 namespace Orv::FluidBench::Impl::IO {
 
+using FluidBench::IO::Diagnostic;
 using FluidBench::IO::DiagnosticSink;
 using Text::TextKind;
 
@@ -13,22 +14,28 @@ Diagnostics::Diagnostics(const DiagnosticSink& sink, std::string file)
 
 void Diagnostics::Tell(const DiagnosticKind& kind, const std::string& file, std::uint64_t line,
                        const std::string& sentence) {
+    if (areWanted_) {
+        Tell({kind.severity, file, line, kind.code, sentence});
+    }
+}
+
+void Diagnostics::Tell(const Diagnostic& diagnostic) {
     if (!areWanted_) {
         return;
     }
-    auto count = std::ranges::find(counts_, &kind, &Count::kind);
+    auto count = std::ranges::find(counts_, diagnostic.code, &Count::code);
     if (count == counts_.end()) {
-        count = counts_.insert(count, {&kind, 0});
+        count = counts_.insert(count, {diagnostic.code, diagnostic.severity, 0});
     }
     if (++count->number <= mostOfOneKind) {
-        sink_({kind.severity, file, line, kind.code, sentence});
+        sink_(diagnostic);
     }
 }
 
 void Diagnostics::Finish() {
-    for (const auto& [kind, number] : counts_) {
+    for (const auto& [code, severity, number] : counts_) {
         if (number > mostOfOneKind) {
-            sink_({kind->severity, file_, 0, kind->code,
+            sink_({severity, file_, 0, code,
                    std::to_string(number - mostOfOneKind) + " more like this."});
         }
     }

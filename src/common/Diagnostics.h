@@ -32,12 +32,16 @@ public:
     void Tell(const DiagnosticKind& kind, const std::string& file, std::uint64_t line,
               const std::string& sentence);
 
+    /// The same about a file that belongs to this one, an included one for instance.
+    void Tell(const FluidBench::IO::Diagnostic& diagnostic);
+
     /// To be called when the file is read: counts what wasn't told one by one.
     void Finish();
 
 private:
     struct Count {
-        const DiagnosticKind* kind;
+        std::string code;
+        FluidBench::IO::Severity severity;
         std::size_t number;
     };
 

@@ -6,6 +6,7 @@
 #include "PVOImporter.h"
 
 #include <optional>
+#include <utility>
 
 namespace Orv::FluidBench::IO {
 
@@ -41,6 +42,14 @@ pvtEnumPVOUnitSystemType PVOFileReader::GetPVOUnitSystemToUse() const {
 
 void PVOFileReader::SetPVOErrorMessageSeverityLevel(pvtEnumPVOErrorSeverityLevel level) {
     importer_->SetSeverityLevel(level);
+}
+
+void PVOFileReader::SetDiagnosticSink(DiagnosticSink sink) {
+    importer_->SetDiagnosticSink(std::move(sink));
+}
+
+std::optional<double> PVOFileReader::GetReservoirTemperature() const {
+    return importer_->GetReservoirTemperature();
 }
 
 ErrorReport PVOFileReader::Read(CompositionalFluid& fluid, bool detectUnitSystem) {

@@ -4,6 +4,9 @@
 #include "Kes/Core/DeckManager/KeywordIterator.h"
 #include "Kes/KesModel/KeywordTracker.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace Orv::Kes::Core::DeckManager {
 
 KeywordIterator::KeywordIterator(const IKeyword& keyword) : keyword_(&keyword) {}
@@ -28,6 +31,18 @@ KeywordTracker::~KeywordTracker() = default;
 
 bool KeywordTracker::addPassedOver(const std::string& name) {
     return passedOver_.size() < mostNames && passedOver_.insert(name).second;
+}
+
+void KeywordTracker::addRead(Read read) {
+    read_.push_back(std::move(read));
+}
+const KeywordTracker::Place* KeywordTracker::findRead(const std::string& keyword) const {
+    const auto found = std::ranges::find(read_, keyword, &Read::keyword);
+    return found == read_.end() ? nullptr : &found->place;
+}
+
+void KeywordTracker::addStatedUnits(StatedUnits units) {
+    statedUnits_.push_back(std::move(units));
 }
 
 } // namespace Orv::Kes::KesModel

@@ -2,6 +2,7 @@
 
 #include "Characters.h"
 #include "KeywordLexer.h"
+#include "KeywordSuggestion.h"
 #include "NumberText.h"
 #include "Quote.h"
 
@@ -15,12 +16,13 @@
 
 namespace Orv::Kes::KesModel {
 
-using Text::Capitals;
 using Text::IsDigit;
 using Text::IsLetter;
 using Text::IsSmallLetter;
 using Text::KeywordError;
+using Text::KeywordFileError;
 using Text::KeywordLexer;
+using Text::KeywordRecord;
 using Text::ParseCount;
 using Text::ParseNumber;
 using Text::Quote;
@@ -39,34 +41,20 @@ constexpr Section sections[] = {
     {"SOLUTION", true}, {"SUMMARY", false}, {"SCHEDULE", false},
 };
 
-bool LooksLikeKeyword(const Token& token) {
-    return token.kind == Kind::Word && IsLetter(token.text[0]) &&
-           std::ranges::all_of(token.text, [](char c) { return IsLetter(c) || IsDigit(c); });
+const Section* FindSection(std::string_view name) {
+    const auto* const section = std::ranges::find(sections, name, &Section::name);
+    return section == std::end(sections) ? nullptr : section;
 }
-bool IsKeyword(const Token& token) {
-    return token.isAtHeadOfLine && LooksLikeKeyword(token);
+
+// A word that can be a keyword: capitals and digits.
+bool IsInCapitals(const Token& token) {
+    return token.kind == Kind::Word && IsLetter(token.text[0]) &&
+           std::ranges::all_of(
+               token.text, [](char c) { return IsDigit(c) || (IsLetter(c) && !IsSmallLetter(c)); });
 }
 
 bool EndsLine(const Token& token) noexcept {
     return token.kind == Kind::LineEnd || token.kind == Kind::FileEnd;
-}
-
-bool BeginsLikeNumber(const Token& token) noexcept {
-    const std::size_t first = token.text.find_first_not_of("+-.");
-    return token.kind == Kind::Word && first != std::string_view::npos &&
-           IsDigit(token.text[first]);
-}
-
-// "16.04", and also "l6.04", "*16" and "nan": whoever wrote that meant a number.
-bool IsMeantAsNumber(const Token& token) {
-    if (token.kind != Kind::Word || BeginsLikeNumber(token)) {
-        return token.kind == Kind::Word;
-    }
-    const bool hasDigit = std::ranges::any_of(token.text, IsDigit);
-    const std::string word = Capitals(
-        token.text.substr(std::min(token.text.find_first_not_of("+-"), token.text.size())));
-    return (hasDigit && token.text.find_first_of(".*") != std::string_view::npos) ||
-           word == "NAN" || word == "INF" || word == "INFINITY";
 }
 
 // A number, a quoted text, or either with a repeat count.
@@ -74,7 +62,8 @@ bool IsData(const Token& token) {
     if (token.kind != Kind::Word) {
         return token.kind == Kind::Quoted;
     }
-    if (!BeginsLikeNumber(token)) {
+    const std::size_t first = token.text.find_first_not_of("+-.");
+    if (first == std::string_view::npos || !IsDigit(token.text[first])) {
         return false;
     }
     double number = 0.0;
@@ -84,56 +73,134 @@ bool IsData(const Token& token) {
                : ParseCount(token.text.substr(0, asterisk)).has_value();
 }
 
+// The end of a line's head, behind which nothing speaks against a keyword.
+bool SuitsKeyword(const Token& next) {
+    return EndsLine(next) || next.kind == Kind::Slash || IsData(next);
+}
+
+// The text of a word that may be meant for a keyword. A longer one is no typing error.
+std::string MayBeKeyword(const Token& token) {
+    constexpr std::size_t longest = 40;
+    const bool isText = token.kind == Kind::Word || token.kind == Kind::Quoted;
+    return isText && token.text.size() <= longest ? std::string(token.text) : std::string();
+}
+
 // Reads the deck and what it includes, line by line.
 class IndexBuilder {
 public:
-    IndexBuilder(const DeckIndex::Wanted& wanted, const DeckObserver& observer,
-                 std::vector<KeywordPlace>& keywords)
-        : wanted_(wanted), observer_(observer), keywords_(keywords) {}
+    IndexBuilder(const DeckVocabulary& vocabulary, DeckLog& log,
+                 std::vector<KeywordPlace>& keywords);
 
-    /// Gives the line on which the file ends.
-    std::uint64_t ReadFile(KeywordLexer& deck);
+    /// Reads the deck and gives the line on which it ends.
+    std::uint64_t Read(KeywordLexer& deck);
 
 private:
-    // What the lines before say about a line that doesn't begin with a keyword for sure.
-    enum class Context {
-        WantedKeyword, // more data of it, or a keyword
-        OtherKeyword,  // the same, of a keyword that isn't known
-        FreeText       // more text
+    // What stood last, which tells whose a line of data is.
+    enum class Behind {
+        Ended,   // a keyword with its data: more records at the most
+        Waiting, // a keyword that isn't known, which may wait for its data
+        Text     // neither
     };
     enum class Record { Closed, Open, None };
+    struct Structural {
+        std::string_view name;
+        void (IndexBuilder::*read)(KeywordLexer&);
+    };
+    static const Structural structurals[];
+    static const Structural* FindStructural(std::string_view name);
 
+    std::uint64_t ReadFile(KeywordLexer& deck);
     void ReadLine(KeywordLexer& deck, const Token& first);
-    bool IsIndentedKeyword(const Token& first, const KeywordLexer& deck);
-    void ReadKeyword(KeywordLexer& deck, const std::string& keyword);
+    bool MayHoldFluidData() const { return section_ == nullptr || section_->mayHoldFluidData; }
+    bool IsKnown(const Token& token) const;
+
+    void ReadKnown(KeywordLexer& deck, const std::string& keyword);
     void ReadTitle(KeywordLexer& deck);
     void ReadEnd(KeywordLexer& deck);
     void ReadSkip(KeywordLexer& deck);
-    void ReadSection(KeywordLexer& deck, const Section& section);
     void ReadInclude(KeywordLexer& deck);
-    void ReadWanted(KeywordLexer& deck, const std::string& keyword, KeywordData data);
-    bool IsMeantAsKeyword(KeywordLexer& deck, KeywordData data, Token& next) const;
-    void ReadUnwanted(KeywordLexer& deck, const std::string& keyword);
-    void ReadFreeText(KeywordLexer& deck);
+    void ReadSection(KeywordLexer& deck, const Section& section);
+    void ReadWanted(KeywordLexer& deck, const std::string& keyword, const WantedKeyword& wanted);
+    void ReadUnknown(KeywordLexer& deck, const std::string& keyword);
+    void ReadData(KeywordLexer& deck, const Token& first);
+    void ReadText(KeywordLexer& deck, const Token& first);
 
+    static void RequireData(const KeywordPlace& place, const WantedKeyword& wanted,
+                            const Token& first);
+    static std::size_t ReadWordOf(const KeywordPlace& place, const WantedKeyword& wanted);
     static Record ReadRestOfDataLine(KeywordLexer& deck);
-    void SkipRecord(KeywordLexer& deck, Record record, std::uint64_t opened,
-                    KeywordData data = KeywordData::Numbers);
-    void Include(const std::string& path, const FilePlace& line);
-    void Remember(const KeywordLexer& deck, KeywordPlace place);
-    void HintAtCapitals(const KeywordLexer& deck, const std::string& keyword);
-    void Hint(const KeywordLexer& deck, std::uint64_t line, const std::string& text);
+    bool SkipRecord(KeywordLexer& deck, std::uint64_t opened, bool isFirm);
+    void PassRestOfLine(KeywordLexer& deck, const std::string& ahead);
+    void PassRestOfLine(KeywordLexer& deck, Token next, const std::string& ahead);
+    std::unique_ptr<KeywordLexer> Open(const std::string& path, bool isQuoted,
+                                       const FilePlace& line);
+    void RequireSoundInclude(const std::string& path, const FilePlace& line);
 
-    const DeckIndex::Wanted& wanted_;
-    const DeckObserver& observer_;
+    void Remember(KeywordPlace place, const WantedKeyword& wanted);
+    bool IsFurtherWord(const std::string& word, const Token& next) const;
+    void CountFurtherRecord(const FilePlace& place);
+    void TellFurtherRecords();
+    void TellUnread();
+    void Suspect(const std::string& word, bool isQuoted, const FilePlace& place, const Token& next);
+
+    static FilePlace PlaceOf(const KeywordLexer& deck) {
+        return {deck.File().Name(), deck.File().Line()};
+    }
+
+    // A wanted keyword in a section that can hold none.
+    struct Unread {
+        KeywordPlace place;
+        std::string_view section;
+    };
+    // What follows the record of a wanted keyword and isn't read.
+    struct Further {
+        std::string keyword; // empty where no wanted keyword stood last
+        WantedKeyword wanted{};
+        std::uint64_t count = 0;
+        FilePlace first;
+    };
+
+    const DeckVocabulary& vocabulary_;
+    DeckLog& log_;
     std::vector<KeywordPlace>& keywords_;
+    std::vector<std::string_view> suggestions_;
     std::vector<std::filesystem::path> openFiles_; // the deck, and the includes that led here
     std::size_t includes_ = 0;
-    std::size_t hints_ = 0;
     const Section* section_ = nullptr; // none ahead of the first section
-    Context context_ = Context::WantedKeyword;
-    bool hasEnded_ = false; // by the keyword
+    Behind behind_ = Behind::Ended;
+    bool isBehindTitle_ = false; // with nothing but text since
+    bool hasEnded_ = false;      // by the keyword
+    Further further_;
+    std::vector<Unread> unread_;
 };
+
+const IndexBuilder::Structural IndexBuilder::structurals[] = {
+    {"TITLE", &IndexBuilder::ReadTitle},
+    {"INCLUDE", &IndexBuilder::ReadInclude},
+    {"SKIP", &IndexBuilder::ReadSkip},
+    {"END", &IndexBuilder::ReadEnd},
+};
+
+const IndexBuilder::Structural* IndexBuilder::FindStructural(std::string_view name) {
+    const auto* const found = std::ranges::find(structurals, name, &Structural::name);
+    return found == std::end(structurals) ? nullptr : found;
+}
+
+IndexBuilder::IndexBuilder(const DeckVocabulary& vocabulary, DeckLog& log,
+                           std::vector<KeywordPlace>& keywords)
+    : vocabulary_(vocabulary), log_(log), keywords_(keywords), suggestions_(vocabulary.names) {
+    suggestions_.emplace_back("INCLUDE");
+    for (const Section& section : sections) {
+        suggestions_.push_back(section.name);
+    }
+}
+
+std::uint64_t IndexBuilder::Read(KeywordLexer& deck) {
+    const std::uint64_t end = ReadFile(deck);
+    TellFurtherRecords();
+    TellUnread();
+    return end;
+}
 
 std::uint64_t IndexBuilder::ReadFile(KeywordLexer& deck) {
     openFiles_.emplace_back(deck.File().Name());
@@ -149,61 +216,43 @@ std::uint64_t IndexBuilder::ReadFile(KeywordLexer& deck) {
 }
 
 void IndexBuilder::ReadLine(KeywordLexer& deck, const Token& first) {
-    if (IsKeyword(first) || IsIndentedKeyword(first, deck)) {
-        ReadKeyword(deck, std::string(first.text));
-    } else if (first.kind == Kind::Slash) {
-        deck.SkipLine();
-    } else if (first.kind == Kind::LineEnd) {
+    if (first.kind == Kind::LineEnd) {
         return;
-    } else if (!IsData(first)) {
-        ReadFreeText(deck);
+    }
+    if (first.kind == Kind::Slash) {
+        PassRestOfLine(deck, "the slash");
+    } else if (IsKnown(first)) {
+        ReadKnown(deck, std::string(first.text));
+    } else if (first.isAtHeadOfLine && IsInCapitals(first)) {
+        ReadUnknown(deck, std::string(first.text));
+    } else if (IsData(first)) {
+        ReadData(deck, first);
     } else {
-        const std::uint64_t opened = deck.File().Line();
-        // "3 wells aren't drilled yet" is more text, "3 1* /" isn't.
-        SkipRecord(deck, context_ == Context::FreeText ? ReadRestOfDataLine(deck) : Record::Open,
-                   opened);
+        ReadText(deck, first);
     }
 }
 
-// Between records an indented word may well be meant as a keyword. Where it may as well be the data
-// of a keyword that isn't known, a hint has to do.
-bool IndexBuilder::IsIndentedKeyword(const Token& first, const KeywordLexer& deck) {
-    if (first.isAtHeadOfLine || !LooksLikeKeyword(first) ||
-        !(wanted_(first.text) || first.text == "INCLUDE" ||
-          std::ranges::find(sections, first.text, &Section::name) != std::end(sections))) {
-        return false;
-    }
-    if (context_ != Context::WantedKeyword) {
-        Hint(deck, deck.File().Line(),
-             std::string(first.text) + " isn't taken for the keyword because it doesn't begin at "
-                                       "the head of its line");
-    }
-    return context_ == Context::WantedKeyword;
+bool IndexBuilder::IsKnown(const Token& token) const {
+    return IsInCapitals(token) &&
+           (vocabulary_.find(token.text) || FindStructural(token.text) != nullptr ||
+            FindSection(token.text) != nullptr);
 }
 
-void IndexBuilder::ReadKeyword(KeywordLexer& deck, const std::string& keyword) {
-    const auto* const section = std::ranges::find(sections, keyword, &Section::name);
-    const bool mayBeWanted = section_ == nullptr || section_->mayHoldFluidData;
-    if (keyword == "TITLE") {
-        ReadTitle(deck);
-    } else if (keyword == "INCLUDE") {
-        ReadInclude(deck);
-    } else if (keyword == "SKIP") {
-        ReadSkip(deck);
-    } else if (keyword == "END") {
-        ReadEnd(deck);
-    } else if (section != std::end(sections)) {
+void IndexBuilder::ReadKnown(KeywordLexer& deck, const std::string& keyword) {
+    if (const Structural* const structural = FindStructural(keyword)) {
+        TellFurtherRecords();
+        (this->*structural->read)(deck);
+    } else if (const Section* const section = FindSection(keyword)) {
         ReadSection(deck, *section);
-    } else if (const auto data = wanted_(keyword); data && mayBeWanted) {
-        ReadWanted(deck, keyword, *data);
+    } else if (MayHoldFluidData()) {
+        ReadWanted(deck, keyword, *vocabulary_.find(keyword));
     } else {
-        if (data) {
-            Hint(deck, deck.File().Line(),
-                 keyword + " isn't read in section " + std::string(section_->name));
-        } else if (std::ranges::any_of(keyword, IsSmallLetter)) {
-            HintAtCapitals(deck, keyword);
+        const bool isNew = std::ranges::none_of(
+            unread_, [&](const Unread& u) { return u.place.keyword == keyword; });
+        if (isNew && vocabulary_.find(keyword)->data != KeywordData::None) {
+            unread_.push_back({{keyword, PlaceOf(deck), 0, {}}, section_->name});
         }
-        ReadUnwanted(deck, keyword);
+        ReadUnknown(deck, keyword);
     }
 }
 
@@ -211,34 +260,38 @@ void IndexBuilder::ReadTitle(KeywordLexer& deck) {
     if (deck.Next().kind == Kind::LineEnd) {
         deck.SkipCommentLines();
     }
-    ReadFreeText(deck);
-    context_ = Context::OtherKeyword;
+    deck.SkipLine();
+    behind_ = Behind::Text;
+    isBehindTitle_ = true;
 }
 
-// What stands behind END isn't read. "END of the deck" is free text.
+// What stands behind END isn't read. "END of the deck" is text.
 void IndexBuilder::ReadEnd(KeywordLexer& deck) {
     const Token next = deck.Next();
     hasEnded_ = EndsLine(next) || next.kind == Kind::Slash;
     if (!hasEnded_) {
-        ReadFreeText(deck);
+        deck.SkipLine();
+        behind_ = Behind::Text;
     }
 }
 
 // Everything up to ENDSKIP is put out of force.
 void IndexBuilder::ReadSkip(KeywordLexer& deck) {
-    const std::uint64_t opened = deck.File().Line();
+    const FilePlace opened = PlaceOf(deck);
     if (!EndsLine(deck.Next())) {
-        ReadFreeText(deck);
+        deck.SkipLine();
+        behind_ = Behind::Text;
         return;
     }
     for (;;) {
         const Token first = deck.Next();
         if (first.kind == Kind::FileEnd) {
-            Hint(deck, opened, "SKIP isn't closed by ENDSKIP before the end of the file");
+            log_.Tell(Problems::skipNotClosed, opened,
+                      "SKIP isn't closed by ENDSKIP before the end of the file.");
             return;
         }
         if (first.kind != Kind::LineEnd) {
-            const bool isEnd = IsKeyword(first) && first.text == "ENDSKIP";
+            const bool isEnd = IsInCapitals(first) && first.text == "ENDSKIP";
             deck.SkipLine();
             if (isEnd) {
                 return;
@@ -249,89 +302,127 @@ void IndexBuilder::ReadSkip(KeywordLexer& deck) {
 
 // A row of dots or dashes behind a section's name is ornament.
 void IndexBuilder::ReadSection(KeywordLexer& deck, const Section& section) {
+    const FilePlace place = PlaceOf(deck);
     const Token next = deck.Next();
     const bool isOrnament = next.kind == Kind::Word && !IsLetter(next.text[0]) && !IsData(next);
-    if (!EndsLine(next)) {
-        ReadFreeText(deck);
+    const bool counts = EndsLine(next) || next.kind == Kind::Slash || isOrnament;
+    if (!counts) {
+        log_.Tell(Problems::sectionIgnored, place,
+                  std::string(section.name) + " doesn't begin that section because of " +
+                      Describe(next) + " behind it: put '--' ahead of the text.");
     }
-    if (EndsLine(next) || next.kind == Kind::Slash || isOrnament) {
+    if (!EndsLine(next)) {
+        deck.SkipLine();
+    }
+    behind_ = counts ? Behind::Ended : Behind::Text;
+    if (counts) {
+        TellFurtherRecords();
+        isBehindTitle_ = false;
         section_ = &section;
-        context_ = Context::WantedKeyword;
     }
 }
 
-void IndexBuilder::ReadWanted(KeywordLexer& deck, const std::string& keyword, KeywordData data) {
-    KeywordPlace place{keyword, {deck.File().Name(), deck.File().Line()}, deck.File().Offset()};
+void IndexBuilder::ReadWanted(KeywordLexer& deck, const std::string& keyword,
+                              const WantedKeyword& wanted) {
+    TellFurtherRecords();
+    KeywordPlace place{keyword, PlaceOf(deck), deck.File().Offset(), {}};
     Token next = deck.Next();
-    if (!IsMeantAsKeyword(deck, data, next)) {
-        Hint(deck, place.line.line,
-             keyword + " isn't taken for the keyword because of the text behind it");
-        if (!EndsLine(next)) {
-            ReadFreeText(deck);
-        }
+    if (isBehindTitle_ && !SuitsKeyword(next)) {
+        place.remark = "only one line behind TITLE is text: begin a second one with '--'";
+    }
+    isBehindTitle_ = false;
+    while (next.kind == Kind::LineEnd && wanted.data != KeywordData::None) {
+        next = deck.Next();
+    }
+    RequireData(place, wanted, next);
+    if (next.kind == Kind::Slash || wanted.data == KeywordData::None) {
+        PassRestOfLine(deck, next, keyword);
+    } else {
+        constexpr bool isFirm = true;
+        SkipRecord(deck, place.line.line, isFirm);
+    }
+    behind_ = Behind::Ended;
+    further_ = {keyword, wanted, 0, {}};
+    Remember(std::move(place), wanted);
+}
+
+// Text in place of the data would take in what follows, up to the next slash.
+void IndexBuilder::RequireData(const KeywordPlace& place, const WantedKeyword& wanted,
+                               const Token& first) {
+    if (wanted.data == KeywordData::Numbers && !SuitsKeyword(first)) {
+        KeywordRecord(place).ReadNumbers({1, 1, "numbers"}, [](std::size_t, const double*) {});
+    } else if (wanted.data == KeywordData::Word) {
+        ReadWordOf(place, wanted);
+    }
+}
+
+std::size_t IndexBuilder::ReadWordOf(const KeywordPlace& place, const WantedKeyword& wanted) {
+    return KeywordRecord(place).ReadWord(
+        wanted.words, wanted.advise != nullptr ? KeywordRecord::Advise(wanted.advise) : nullptr);
+}
+
+void IndexBuilder::ReadUnknown(KeywordLexer& deck, const std::string& keyword) {
+    const FilePlace place = PlaceOf(deck);
+    const bool wasText = behind_ == Behind::Text;
+    const Token next = deck.Next();
+    if (IsFurtherWord(keyword, next)) {
+        CountFurtherRecord(place);
+        PassRestOfLine(deck, next, keyword);
         return;
     }
-    if (next.kind == Kind::Slash || (data == KeywordData::None && !EndsLine(next))) {
-        deck.SkipLine();
-    } else if (data != KeywordData::None) {
-        SkipRecord(deck, Record::Open, place.line.line, data);
+    TellFurtherRecords();
+    if (!vocabulary_.find(keyword)) {
+        Suspect(keyword, false, place, next);
     }
-    context_ = Context::WantedKeyword;
-    Remember(deck, std::move(place));
-}
-
-// Whether the text behind a wanted keyword suits it, or its place leaves no doubt. `next` is the
-// token behind the keyword, and afterwards the last one that was looked at.
-bool IndexBuilder::IsMeantAsKeyword(KeywordLexer& deck, KeywordData data, Token& next) const {
-    const auto endsRecord = [&next] { return EndsLine(next) || next.kind == Kind::Slash; };
-    if (endsRecord()) {
-        return true;
-    }
-    bool suits = false;
-    switch (data) {
-    case KeywordData::None:
-        break;
-    case KeywordData::Numbers:
-        suits = IsMeantAsNumber(next);
-        break;
-    case KeywordData::Word: {
-        const bool isQuoted = next.kind == Kind::Quoted;
-        next = deck.Next();
-        suits = isQuoted || endsRecord();
-        break;
-    }
-    case KeywordData::Names:
-        suits = true;
-        break;
-    }
-    return suits || context_ == Context::WantedKeyword;
-}
-
-void IndexBuilder::ReadUnwanted(KeywordLexer& deck, const std::string& keyword) {
-    const std::uint64_t line = deck.File().Line();
-    const Context before = context_;
-    const Token next = deck.Next();
+    behind_ = EndsLine(next) ? Behind::Waiting : Behind::Ended;
     Record record = Record::Closed;
-    context_ = Context::OtherKeyword;
     if (next.kind == Kind::Slash) {
-        deck.SkipLine();
-    } else if (!EndsLine(next) && !IsData(next)) {
-        ReadFreeText(deck);
-    } else if (!EndsLine(next)) {
+        PassRestOfLine(deck, next, keyword);
+    } else if (IsData(next)) {
         record = ReadRestOfDataLine(deck);
-        context_ = record == Record::None ? Context::FreeText : Context::OtherKeyword;
+    } else if (!EndsLine(next)) {
+        deck.SkipLine();
+        record = Record::None;
     }
-    if (observer_.passedOver && (context_ != Context::FreeText || before != Context::FreeText)) {
-        observer_.passedOver(keyword, deck.File().Name(), line);
+    if (record != Record::None || !wasText) {
+        log_.TellPassedOver(keyword, place);
     }
-    if (context_ == Context::OtherKeyword) {
-        SkipRecord(deck, record, line);
+    if (record == Record::None) {
+        behind_ = Behind::Text;
+        return;
+    }
+    const bool isFirm = !std::exchange(isBehindTitle_, false);
+    if (record == Record::Open) {
+        SkipRecord(deck, place.line, isFirm);
     }
 }
 
-void IndexBuilder::ReadFreeText(KeywordLexer& deck) {
-    deck.SkipLine();
-    context_ = Context::FreeText;
+void IndexBuilder::ReadData(KeywordLexer& deck, const Token& first) {
+    const FilePlace place = PlaceOf(deck);
+    if (first.kind == Kind::Quoted) {
+        Suspect(MayBeKeyword(first), true, place, {Kind::LineEnd, {}, false});
+    }
+    const Record record = ReadRestOfDataLine(deck);
+    if (record == Record::None) {
+        behind_ = Behind::Text;
+        return;
+    }
+    const bool isFirm = behind_ == Behind::Waiting;
+    behind_ = Behind::Ended;
+    if (record == Record::Closed || SkipRecord(deck, place.line, isFirm)) {
+        CountFurtherRecord(place);
+    }
+}
+
+void IndexBuilder::ReadText(KeywordLexer& deck, const Token& first) {
+    const FilePlace place = PlaceOf(deck);
+    const std::string word = MayBeKeyword(first);
+    const Token next = deck.Next();
+    Suspect(word, false, place, next);
+    if (!EndsLine(next)) {
+        deck.SkipLine();
+    }
+    behind_ = Behind::Text;
 }
 
 // Passes the rest of a line of data, up to the end of its record, its own end or the first word
@@ -350,121 +441,249 @@ IndexBuilder::Record IndexBuilder::ReadRestOfDataLine(KeywordLexer& deck) {
 }
 
 // Words in an open record are data, whatever they look like. When it was left open by mistake, the
-// keywords that stand in it are missing afterwards, which is hard to find out without a hint. The
-// one word that a record should have may well be a keyword too, as METRIC is under FILEUNIT.
-void IndexBuilder::SkipRecord(KeywordLexer& deck, Record record, std::uint64_t opened,
-                              KeywordData data) {
-    bool isExpectedWord = data == KeywordData::Word;
-    while (record == Record::Open) {
+// keywords that stand in it are missing afterwards, which is hard to find out without a warning.
+// A record that isn't firm was none when a keyword follows ahead of its slash.
+bool IndexBuilder::SkipRecord(KeywordLexer& deck, std::uint64_t opened, bool isFirm) {
+    for (;;) {
         deck.SkipPlainText();
         const Token token = deck.Next();
         if (token.kind == Kind::Slash) {
-            deck.SkipLine();
-            record = Record::Closed;
-        } else if (token.kind == Kind::FileEnd) {
-            Hint(deck, opened, "the record isn't closed by '/' before the end of the file");
-            record = Record::None;
-        } else if (IsKeyword(token) && wanted_(token.text) && !isExpectedWord) {
-            Hint(deck, deck.File().Line(),
-                 std::string(token.text) + " is data of the record that is open since line " +
-                     std::to_string(opened));
+            PassRestOfLine(deck, "the slash");
+            return true;
         }
-        isExpectedWord = isExpectedWord && token.kind == Kind::LineEnd;
+        if (token.kind == Kind::FileEnd) {
+            // The slash may stand behind the INCLUDE.
+            if (openFiles_.size() == 1 || !isFirm) {
+                log_.Tell(Problems::recordNotClosed, {deck.File().Name(), opened},
+                          "the record isn't closed by '/' before the end of the file.");
+            }
+            return isFirm;
+        }
+        if (token.isAtHeadOfLine && IsKnown(token)) {
+            const std::string keyword(token.text);
+            if (!isFirm) {
+                log_.Tell(Problems::recordNotClosed, {deck.File().Name(), opened},
+                          "the record isn't closed by '/' ahead of " + keyword + " on line " +
+                              std::to_string(deck.File().Line()) + '.');
+                ReadKnown(deck, keyword);
+                return false;
+            }
+            log_.Tell(Problems::inOpenRecord, PlaceOf(deck),
+                      keyword + " is data of the record that is open since line " +
+                          std::to_string(opened) + ", which isn't closed by '/' ahead of it.");
+        }
+    }
+}
+
+void IndexBuilder::PassRestOfLine(KeywordLexer& deck, const std::string& ahead) {
+    PassRestOfLine(deck, {Kind::Slash, {}, false}, ahead);
+}
+
+// What stands behind a slash, or behind a keyword without data, doesn't count.
+void IndexBuilder::PassRestOfLine(KeywordLexer& deck, Token next, const std::string& ahead) {
+    const FilePlace place = PlaceOf(deck);
+    if (next.kind == Kind::Slash) {
+        next = deck.Next();
+    }
+    if (MayHoldFluidData() && IsInCapitals(next) && vocabulary_.find(next.text)) {
+        log_.Tell(Problems::textBehind, place,
+                  std::string(next.text) +
+                      " isn't taken for the keyword because it stands behind " + ahead +
+                      ": put it on a line of its own.");
+    }
+    if (!EndsLine(next)) {
+        deck.SkipLine();
     }
 }
 
 void IndexBuilder::ReadInclude(KeywordLexer& deck) {
-    const FilePlace line{deck.File().Name(), deck.File().Line()};
-    Token path = deck.Next();
-    if (path.kind == Kind::Word && context_ != Context::WantedKeyword) {
-        Hint(deck, line.line,
-             "INCLUDE isn't taken for the keyword because no path in quotes is behind it");
-        ReadFreeText(deck);
-        return;
-    }
+    const FilePlace line = PlaceOf(deck);
+    isBehindTitle_ = false;
+    Token path = deck.NextPath();
     while (path.kind == Kind::LineEnd) {
-        path = deck.Next();
+        path = deck.NextPath();
     }
-    if (path.kind != Kind::Quoted || path.text.empty()) {
+    const bool isQuoted = path.kind == Kind::Quoted;
+    if ((!isQuoted && path.kind != Kind::Word) || path.text.empty()) {
         throw KeywordError(line, "INCLUDE", "a path in quotes", Describe(path));
     }
     const std::filesystem::path folder = std::filesystem::path(deck.File().Name()).parent_path();
-    const std::string included = (folder / std::string(path.text)).string();
+    const std::unique_ptr<KeywordLexer> included =
+        Open((folder / std::string(path.text)).string(), isQuoted, line);
     const Token behind = deck.Next();
     if (!EndsLine(behind)) {
         if (behind.kind != Kind::Slash) {
             throw KeywordError(line, "INCLUDE", "'/' behind the path", Describe(behind));
         }
-        deck.SkipLine();
+        PassRestOfLine(deck, behind, "the slash");
     }
-    Include(included, line);
+    if (included != nullptr) {
+        ReadFile(*included);
+    }
 }
 
-void IndexBuilder::Include(const std::string& path, const FilePlace& line) {
-    const auto fail = [&](const std::string& expected, const std::string& found) {
-        throw KeywordError(line, "INCLUDE", expected, found);
-    };
+// Null for a file that is missing where no wanted keyword could stand in it.
+std::unique_ptr<KeywordLexer> IndexBuilder::Open(const std::string& path, bool isQuoted,
+                                                 const FilePlace& line) {
+    // A path of another system has other slashes.
+    std::string other = path;
+    std::ranges::replace(other, '\\', '/');
+    std::string reason;
+    for (const std::string& name : {path, other}) {
+        RequireSoundInclude(name, line);
+        try {
+            auto included = std::make_unique<KeywordLexer>(name);
+            if (++includes_ > DeckIndex::mostIncludes) {
+                throw KeywordError(line, "INCLUDE",
+                                   "at most " + std::to_string(DeckIndex::mostIncludes) +
+                                       " includes in a deck",
+                                   "one more, " + Quote(path));
+            }
+            return included;
+        } catch (const KeywordFileError&) {
+            throw;
+        } catch (const std::runtime_error& error) {
+            reason = reason.empty() ? error.what() + (", " + Quote(path)) : reason;
+        }
+    }
+    const std::string expected =
+        isQuoted ? "a file to include" : "a path in quotes, or one that can be opened";
+    if (MayHoldFluidData()) {
+        throw KeywordError(line, "INCLUDE", expected, reason);
+    }
+    log_.Tell(Problems::includeMissing, line,
+              "keyword INCLUDE: expected " + expected + ", found " + reason +
+                  "; no fluid data can stand in section " + std::string(section_->name) + '.');
+    return nullptr;
+}
+
+void IndexBuilder::RequireSoundInclude(const std::string& path, const FilePlace& line) {
     const auto isSameFile = [&](const std::filesystem::path& open) {
         std::error_code error;
         return std::filesystem::equivalent(open, path, error);
     };
     if (std::ranges::any_of(openFiles_, isSameFile)) {
-        fail("a file that isn't being read already", Quote(path));
+        throw KeywordError(line, "INCLUDE", "a file that isn't being read already", Quote(path));
     }
     if (openFiles_.size() > DeckIndex::deepestInclude) {
-        fail("at most " + std::to_string(DeckIndex::deepestInclude) + " includes in each other",
-             "one more, " + Quote(path));
+        throw KeywordError(line, "INCLUDE",
+                           "at most " + std::to_string(DeckIndex::deepestInclude) +
+                               " includes in each other",
+                           "one more, " + Quote(path));
     }
-    if (++includes_ > DeckIndex::mostIncludes) {
-        fail("at most " + std::to_string(DeckIndex::mostIncludes) + " includes in a deck",
-             "one more, " + Quote(path));
-    }
-    std::unique_ptr<KeywordLexer> deck;
-    try {
-        deck = std::make_unique<KeywordLexer>(path);
-    } catch (const std::runtime_error& error) {
-        fail("a file to include", error.what() + (", " + Quote(path)));
-    }
-    ReadFile(*deck);
 }
 
-void IndexBuilder::Remember(const KeywordLexer& deck, KeywordPlace place) {
+// Of a keyword that stands more than once the last one counts; the ones ahead have to be as sound.
+void IndexBuilder::Remember(KeywordPlace place, const WantedKeyword& wanted) {
     const auto earlier = std::ranges::find(keywords_, place.keyword, &KeywordPlace::keyword);
     if (earlier != keywords_.end()) {
-        Hint(deck, place.line.line, place.keyword + " stands a second time, and this time counts");
+        bool isSame = wanted.data == KeywordData::None;
+        if (wanted.data == KeywordData::Numbers) {
+            constexpr std::size_t mostNumbers = std::size_t{1} << 22;
+            KeywordRecord(*earlier).ReadNumbers({0, mostNumbers, "numbers"},
+                                                [](std::size_t, const double*) {});
+        } else if (wanted.data == KeywordData::Word) {
+            isSame = ReadWordOf(*earlier, wanted) == ReadWordOf(place, wanted);
+        }
+        if (!isSame) {
+            log_.Tell(Problems::secondTime, place.line,
+                      place.keyword + " stands a second time, and this time counts.");
+        }
         keywords_.erase(earlier);
     }
     keywords_.push_back(std::move(place));
 }
 
-void IndexBuilder::HintAtCapitals(const KeywordLexer& deck, const std::string& keyword) {
-    const std::string capitals = Capitals(keyword);
-    if (wanted_(capitals) || capitals == "INCLUDE") {
-        Hint(deck, deck.File().Line(),
-             keyword + " isn't taken for the keyword " + capitals +
-                 " because it isn't in capitals");
+// Further records of words can't be told from keywords by their looks.
+bool IndexBuilder::IsFurtherWord(const std::string& word, const Token& next) const {
+    const bool isWord =
+        further_.wanted.data == KeywordData::Word && next.kind == Kind::Slash &&
+        std::ranges::find(further_.wanted.words, word) != std::ranges::end(further_.wanted.words);
+    const bool isRowOfNames = further_.wanted.data == KeywordData::Names &&
+                              behind_ == Behind::Ended && next.kind == Kind::Word && !IsData(next);
+    return !further_.keyword.empty() && (isWord || isRowOfNames);
+}
+
+void IndexBuilder::CountFurtherRecord(const FilePlace& place) {
+    if (!further_.keyword.empty() && ++further_.count == 1) {
+        further_.first = place;
     }
 }
 
-void IndexBuilder::Hint(const KeywordLexer& deck, std::uint64_t line, const std::string& text) {
-    if (observer_.hint && hints_ < DeckIndex::mostHints) {
-        ++hints_;
-        observer_.hint(Describe(FilePlace{deck.File().Name(), line}) + ": " + text + ".");
+void IndexBuilder::TellFurtherRecords() {
+    if (further_.count > 0) {
+        const bool takesNone = further_.wanted.data == KeywordData::None;
+        const std::string count = std::to_string(further_.count);
+        log_.Tell(Problems::furtherRecords, further_.first,
+                  "keyword " + further_.keyword + ": expected " +
+                      (takesNone ? "no data" : "one record") + ", found " + count +
+                      (takesNone ? "" : " more") + (further_.count == 1 ? " record" : " records") +
+                      " behind it; " +
+                      (takesNone ? "they are dropped." : "the first counts, the rest is dropped."));
+    }
+    further_ = {};
+}
+
+void IndexBuilder::TellUnread() {
+    for (const Unread& unread : unread_) {
+        if (std::ranges::find(keywords_, unread.place.keyword, &KeywordPlace::keyword) ==
+            keywords_.end()) {
+            log_.Tell(Problems::otherSection, unread.place.line,
+                      unread.place.keyword + " isn't read in section " +
+                          std::string(unread.section) + ", and stands in no other one.");
+        }
+    }
+}
+
+// Tells of a word at the head of a line that may be meant for a keyword. The data behind it aren't
+// those of the keyword ahead, then.
+void IndexBuilder::Suspect(const std::string& word, bool isQuoted, const FilePlace& place,
+                           const Token& next) {
+    const std::string bare = BareKeyword(word);
+    if (bare.empty()) {
+        return;
+    }
+    const bool isWanted = vocabulary_.find(bare).has_value();
+    const bool isSection = FindSection(bare) != nullptr;
+    const bool isInSmallLetters = std::ranges::any_of(word, IsSmallLetter);
+    const bool isBare = !isQuoted && word.size() == bare.size();
+    // Words in small letters are text, unless a keyword's data follow.
+    const bool isDoubtful = (isInSmallLetters && !SuitsKeyword(next)) || isQuoted;
+    const bool differsInLetters =
+        isBare && isInSmallLetters &&
+        (isWanted ? MayHoldFluidData()
+                  : !isDoubtful && (isSection || FindStructural(bare) != nullptr));
+    if (differsInLetters) {
+        TellFurtherRecords();
+        log_.Tell(isSection ? Problems::sectionIgnored : Problems::smallLetters, place,
+                  Quote(word) + " isn't taken for the keyword " + bare +
+                      " because it isn't in capitals.");
+        return;
+    }
+    const std::string_view meant = isWanted || isSection ? std::string_view(bare)
+                                   : isDoubtful          ? std::string_view()
+                                                         : ClosestKeyword(bare, suggestions_);
+    if (MayHoldFluidData() && !meant.empty() && (isWanted || !isDoubtful)) {
+        TellFurtherRecords();
+        log_.Tell(Problems::didYouMean, place,
+                  "expected a keyword, found " + Quote(word) + ": did you mean " +
+                      std::string(meant) + "? It isn't read.");
     }
 }
 
 } // namespace
 
-DeckIndex::DeckIndex(const std::string& fileName, const Wanted& wanted,
-                     const DeckObserver& observer)
+DeckIndex::DeckIndex(const std::string& fileName, const DeckVocabulary& vocabulary, DeckLog& log)
     : end_{fileName, 1} {
     std::unique_ptr<KeywordLexer> deck;
     try {
         deck = std::make_unique<KeywordLexer>(fileName);
+    } catch (const KeywordFileError&) {
+        throw;
     } catch (const std::runtime_error& error) {
         throw KeywordError(end_, "none", "a deck", error.what());
     }
-    end_.line = IndexBuilder(wanted, observer, keywords_).ReadFile(*deck);
+    end_.line = IndexBuilder(vocabulary, log, keywords_).Read(*deck);
 }
 
 } // namespace Orv::Kes::KesModel

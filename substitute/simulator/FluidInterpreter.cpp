@@ -1,9 +1,16 @@
 #include "FluidInterpreter.h"
 
+#include "Characters.h"
+#include "FluidChecks.h"
+#include "Kes/KesModel/IKeywordValidator.h"
+#include "KeywordLexer.h"
 #include "KeywordRecord.h"
 #include "Quote.h"
 
 #include <algorithm>
+#include <array>
+#include <optional>
+#include <span>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -16,10 +23,14 @@ using SimFluid::ICompositionalModel;
 using SimFluid::IDepthTable;
 using SimFluid::IFluidModels;
 using SimFluid::IInitialCondition;
+using SimFluid::ITemperatureTable;
+using Text::IsDigit;
 using Text::ItemCount;
 using Text::KeywordError;
+using Text::KeywordLexer;
 using Text::KeywordRecord;
 using Text::Quote;
+using Text::Token;
 
 namespace {
 
@@ -38,6 +49,7 @@ constexpr int pedersen = 1;
 // The model while it is filled. What two keywords decide together waits for both of them.
 struct Fluid {
     ICompositionalModel& model;
+    DeckLog& log;
     std::size_t n; // components
     int equationOfState = pengRobinson;
     bool isCorrected = false;
@@ -51,7 +63,26 @@ struct FluidKeyword {
     bool isFluidKeyword;
     void (*handle)(Fluid&, const KeywordPlace&, const FluidKeyword&); // may be null
     int property;                                                     // of each component
+    std::span<const std::string_view> words{};                        // of which its record has one
+    std::string (*advise)(std::string_view word) = nullptr;
 };
+
+constexpr std::string_view unitSystems[] = {"METRIC", "FIELD"};
+constexpr std::size_t metric = 0; // its place there
+
+struct Equation {
+    std::string_view word;
+    int code;
+};
+constexpr Equation equations[] = {{"PR", pengRobinson},
+                                  {"RK", redlichKwong},
+                                  {"SRK", soaveRedlichKwong},
+                                  {"ZJ", zudkevitchJoffe}};
+constexpr auto equationWords = [] {
+    std::array<std::string_view, std::size(equations)> words;
+    std::ranges::transform(equations, words.begin(), &Equation::word);
+    return words;
+}();
 
 // What the keywords do.
 
@@ -74,12 +105,18 @@ void CheckCount(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
     }
 }
 
-void CheckUnits(Fluid&, const KeywordPlace& place, const FluidKeyword&) {
-    KeywordRecord(place).ReadWord({"METRIC", "FIELD"});
+void ReadUnits(Fluid& fluid, const KeywordPlace& place, const FluidKeyword& keyword) {
+    fluid.log.KeepUnits(place, KeywordRecord(place).ReadWord(keyword.words) == metric);
 }
 
-void CheckNumber(Fluid&, const KeywordPlace& place, const FluidKeyword&) {
-    KeywordRecord(place).ReadNumbers({1, 1, "one number"}, IgnoreNumber);
+// The unit system of the simulation. With text behind it, it may be a part of the title.
+void KeepUnits(Fluid& fluid, const KeywordPlace& place, const FluidKeyword& keyword) {
+    KeywordLexer deck(place.line.file);
+    deck.MoveTo(place.offset, place.line.line);
+    const Token::Kind next = deck.Next().kind;
+    if (next != Token::Kind::Word && next != Token::Kind::Quoted) {
+        fluid.log.KeepUnits(place, keyword.name == unitSystems[metric]);
+    }
 }
 
 void ReadProperty(Fluid& fluid, const KeywordPlace& place, const FluidKeyword& keyword) {
@@ -96,20 +133,13 @@ void CheckProperty(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&)
     KeywordRecord(place).ReadNumbers(OnePerComponent(fluid), IgnoreNumber);
 }
 
+std::string AdviseOnEquation(std::string_view word) {
+    return word.starts_with("PR7") ? ": for the equation of 1978, use PR and the keyword PRCORR"
+                                   : std::string();
+}
+
 int ReadEquationOfStateCode(const KeywordPlace& place) {
-    struct Equation {
-        std::string_view word;
-        int code;
-    };
-    constexpr Equation equations[] = {{"PR", pengRobinson},
-                                      {"RK", redlichKwong},
-                                      {"SRK", soaveRedlichKwong},
-                                      {"ZJ", zudkevitchJoffe}};
-    std::vector<std::string> words;
-    for (const Equation& equation : equations) {
-        words.emplace_back(equation.word);
-    }
-    return equations[KeywordRecord(place).ReadWord(words)].code;
+    return equations[KeywordRecord(place).ReadWord(equationWords)].code;
 }
 
 void ReadEquationOfState(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
@@ -206,6 +236,24 @@ void ReadCompositionByDepth(Fluid& fluid, const KeywordPlace& place, const Fluid
     }
 }
 
+// One temperature, or one for each region, of which the first counts.
+void ReadReservoirTemperature(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
+    ITemperatureTable& table = fluid.model.getTemperatureTable();
+    const std::size_t count =
+        KeywordRecord(place).ReadNumbers({1, mostTableNumbers, "a temperature for each region"},
+                                         [&](std::size_t index, const double* number) {
+                                             if (index == 0 && number != nullptr) {
+                                                 table.setNumTemperatures(1);
+                                                 table.setTemperature(0, *number);
+                                             }
+                                         });
+    if (count > 1) {
+        fluid.log.Tell(Problems::furtherRecords, place.line,
+                       "keyword RTEMP: expected one temperature, found " + std::to_string(count) +
+                           ", one for each region; the first counts, the rest is dropped.");
+    }
+}
+
 // Which keyword does what.
 
 constexpr auto None = KeywordData::None;
@@ -223,12 +271,12 @@ constexpr FluidKeyword keywords[] = {
     {"CNAMES",   Names,  ofFluid, nullptr,                   noProperty},
     {"NCOMPS",   Number, ofDeck,  CheckCount,                noProperty},
     {"COMPS",    Number, ofDeck,  CheckCount,                noProperty},
-    {"FILEUNIT", Word,   ofDeck,  CheckUnits,                noProperty},
+    {"FILEUNIT", Word,   ofDeck,  ReadUnits,                 noProperty, unitSystems},
     {"ECHO",     None,   ofDeck,  nullptr,                   noProperty},
-    {"METRIC",   None,   ofDeck,  nullptr,                   noProperty},
-    {"FIELD",    None,   ofDeck,  nullptr,                   noProperty},
+    {"METRIC",   None,   ofDeck,  KeepUnits,                 noProperty},
+    {"FIELD",    None,   ofDeck,  KeepUnits,                 noProperty},
 
-    {"EOS",      Word,   ofFluid, ReadEquationOfState,       noProperty},
+    {"EOS",      Word,   ofFluid, ReadEquationOfState,       noProperty, equationWords, AdviseOnEquation},
     {"PRCORR",   None,   ofDeck,  CorrectEquationOfState,    noProperty},
     {"MW",       Number, ofFluid, ReadProperty,              IComponent::MOLECULAR_WEIGHT},
     {"PCRIT",    Number, ofFluid, ReadProperty,              IComponent::CRITICAL_PRESSURE},
@@ -252,11 +300,10 @@ constexpr FluidKeyword keywords[] = {
     {"LBCCOEF",  Number, ofDeck,  ReadViscosityCoefficients, noProperty},
     {"ZI",       Number, ofFluid, ReadComposition,           noProperty},
     {"ZMFVD",    Number, ofFluid, ReadCompositionByDepth,    noProperty},
+    {"RTEMP",    Number, ofFluid, ReadReservoirTemperature,  noProperty},
 
-    // Read and not stored: nothing in the store stands for the reservoir's temperature or for the
-    // equation of state at the surface.
-    {"RTEMP",    Number, ofFluid, CheckNumber,               noProperty},
-    {"EOSS",     Word,   ofFluid, CheckEquationOfState,      noProperty},
+    // Read and not stored: nothing in the store stands for the equation of state at the surface.
+    {"EOSS",     Word,   ofFluid, CheckEquationOfState,      noProperty, equationWords, AdviseOnEquation},
     {"MWS",      Number, ofFluid, CheckProperty,             noProperty},
     {"PCRITS",   Number, ofFluid, CheckProperty,             noProperty},
     {"TCRITS",   Number, ofFluid, CheckProperty,             noProperty},
@@ -299,7 +346,20 @@ bool SaysNoComponents(const DeckIndex& index) {
         });
 }
 
-std::vector<std::string> ReadNames(const DeckIndex& index) {
+// "C1,C2" and "'C1','C2'" are one name each, which hardly anybody means. "2,2-dimethylbutane" is.
+bool LooksJoined(std::string_view name) {
+    const auto isDigitAt = [name](std::size_t i) { return i < name.size() && IsDigit(name[i]); };
+    for (std::size_t i = 0; i < name.size(); ++i) {
+        const bool isQuote = name[i] == '\'' || name[i] == '"';
+        if ((name[i] == ',' && !(i > 0 && isDigitAt(i - 1) && isDigitAt(i + 1))) ||
+            (isQuote && i + 1 < name.size() && name[i + 1] == name[i])) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::vector<std::string> ReadNames(const DeckIndex& index, DeckLog& log) {
     const std::string meaning = "the names of the components";
     const KeywordPlace* const place = FindPlace(index, "CNAMES");
     if (place == nullptr) {
@@ -313,6 +373,11 @@ std::vector<std::string> ReadNames(const DeckIndex& index) {
     }
     std::unordered_set<std::string_view> known;
     for (const std::string& name : names) {
+        if (LooksJoined(name)) {
+            log.Tell(Problems::joinedNames, place->line,
+                     "keyword CNAMES: expected blanks between the names, found " + Quote(name) +
+                         ", which is one name.");
+        }
         if (!known.insert(name).second) {
             record.Fail("a name for each component alone", Quote(name) + " twice");
         }
@@ -322,20 +387,35 @@ std::vector<std::string> ReadNames(const DeckIndex& index) {
 
 } // namespace
 
-std::optional<KnownKeyword> FindKnownKeyword(std::string_view keyword) {
-    const FluidKeyword* const known = Find(keyword);
-    return known == nullptr ? std::nullopt
-                            : std::optional(KnownKeyword{known->data, known->isFluidKeyword});
+DeckVocabulary VocabularyOf(const IFluidsKeywordValidator* validator) {
+    const auto counts = [validator](const FluidKeyword& keyword) {
+        return !keyword.isFluidKeyword || validator == nullptr ||
+               validator->isValidKeyword(std::string(keyword.name));
+    };
+    DeckVocabulary vocabulary;
+    vocabulary.find = [counts](std::string_view name) -> std::optional<WantedKeyword> {
+        const FluidKeyword* const keyword = Find(name);
+        return keyword != nullptr && counts(*keyword)
+                   ? std::optional(WantedKeyword{keyword->data, keyword->words, keyword->advise})
+                   : std::nullopt;
+    };
+    for (const FluidKeyword& keyword : keywords) {
+        if (counts(keyword)) {
+            vocabulary.names.push_back(keyword.name);
+        }
+    }
+    return vocabulary;
 }
 
-void InterpretFluid(const DeckIndex& index, IFluidModels& models) {
-    const std::vector<std::string> names = ReadNames(index);
-    Fluid fluid{*models.makeCompositionalModel(modelName), names.size()};
+void InterpretFluid(const DeckIndex& index, IFluidModels& models, DeckLog& log) {
+    const std::vector<std::string> names = ReadNames(index, log);
+    Fluid fluid{*models.makeCompositionalModel(modelName), log, names.size()};
     for (const std::string& name : names) {
         fluid.model.makeComponent(name);
     }
     for (const KeywordPlace& place : index.Keywords()) {
         const FluidKeyword& keyword = *Find(place.keyword);
+        log.KeepRead(place);
         if (keyword.handle != nullptr) {
             keyword.handle(fluid, place, keyword);
         }
@@ -344,6 +424,7 @@ void InterpretFluid(const DeckIndex& index, IFluidModels& models) {
     fluid.model.setEquationOfState(isCorrected ? correctedPengRobinson : fluid.equationOfState);
     const bool usesPedersen = fluid.namesPedersen || fluid.lacksViscosityCoefficients;
     fluid.model.setViscosityModel(usesPedersen ? pedersen : lohrenzBrayClark);
+    CheckFluid(fluid.model, index, log);
 }
 
 } // namespace Orv::Kes::KesModel

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <iostream>
+#include <utility>
 
 namespace Orv::Kes::KesModel {
 
@@ -31,6 +32,8 @@ DefaultLogger& TheDefaultLogger() {
 // Null stands for the default logger, so that it is made when somebody asks for it.
 std::atomic<BaseLogger*> currentLogger = nullptr;
 
+thread_local ThreadListener* listenerOfThread = nullptr;
+
 } // namespace
 
 BaseLogger* Log::getCurrentLogger() {
@@ -41,6 +44,18 @@ BaseLogger* Log::getCurrentLogger() {
 BaseLogger* Log::setCurrentLogger(BaseLogger* logger) {
     BaseLogger* const previous = currentLogger.exchange(logger);
     return previous != nullptr ? previous : &TheDefaultLogger();
+}
+
+ThreadListener::ThreadListener(Function function)
+    : function_(std::move(function)), outer_(std::exchange(listenerOfThread, this)) {}
+ThreadListener::~ThreadListener() {
+    listenerOfThread = outer_;
+}
+
+void ThreadListener::tell(const LogMessage& message) {
+    if (listenerOfThread != nullptr) {
+        listenerOfThread->function_(message);
+    }
 }
 
 BaseLogger::BaseLogger() = default;

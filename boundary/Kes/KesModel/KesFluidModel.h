@@ -30,7 +30,8 @@ public:
     /// Throws what derives from `std::exception` for a deck that can't be interpreted, with the
     /// reason as its text, and tells it to the current logger as an error. The store may have been
     /// written to by then. Keywords that are passed over are told to the logger as `Debug`; what
-    /// may have been meant for a keyword and isn't taken is told as `Warning`.
+    /// may mean something else than it seems to is told as `Warning`. The stand-in tells all of it
+    /// to the `ThreadListener` of this thread too.
     void createFromKeywords(const Deck& deck, const KesGridModel* grid, KeywordTracker* tracker,
                             const IFluidsKeywordValidator* validator);
 

@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace Orv::Kes::KesModel {
@@ -58,6 +59,39 @@ public:
 
 private:
     std::atomic<Log::Severity> maxSeverity_ = Log::Error;
+};
+
+// The stand-in's own way of telling one reader what concerns its deck.
+
+/// A message of a deck's reading, in its parts.
+struct LogMessage {
+    Log::Severity severity = Log::Error;
+    std::string file;       ///< the deck or what it includes, as it was named
+    std::uint64_t line = 0; ///< counted from 1; 0 where no line applies
+    const char* code = "";  ///< stable, "deck.refused" for one; valid as long as the program runs
+    std::string text;       ///< a sentence without the place
+};
+
+/// While it lives, the messages of decks that are read on the thread that made it come to its
+/// function too, whatever the current logger does with them. Readers on several threads so hear of
+/// their own decks alone. Where one lives inside another, the inner one hears.
+///
+/// What the function throws reaches whoever tells the message.
+class FLUIDBENCH_BOUNDARY_API ThreadListener {
+public:
+    using Function = std::function<void(const LogMessage&)>;
+
+    explicit ThreadListener(Function function);
+    ~ThreadListener();
+    ThreadListener(const ThreadListener&) = delete;
+    ThreadListener& operator=(const ThreadListener&) = delete;
+
+    /// Gives the message to the listener of this thread, if there is one.
+    static void tell(const LogMessage& message);
+
+private:
+    Function function_;
+    ThreadListener* outer_;
 };
 
 } // namespace Orv::Kes::KesModel

@@ -1,13 +1,14 @@
 // The fluid, from what the deck interpreter put into the store.
+#include "DeckPlaces.h"
 #include "DeckUnitSystems.h"
 #include "FluidBench/Common/Exceptions.h"
 #include "FluidBench/Model/Characterisation.h"
 #include "FluidBench/Model/CharacterisationControl.h"
 #include "IOException.h"
-#include "Kes/KesModel/Log.h"
 #include "Messages.h"
 #include "PVOCompositionalModelAdaptor.h"
 #include "PVOImporter.h"
+#include "Quote.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,7 +27,6 @@ using Common::pvtEnumStandardConditions;
 using Common::pvtEnumViscosityMethod;
 using Common::RelatedPropertyOutOfRangeException;
 using Common::Units;
-using Kes::KesModel::Log;
 using Kes::SimFluid::IComponent;
 using Kes::SimFluid::IInitialCondition;
 using Model::CompositionalFluid;
@@ -34,10 +34,15 @@ using Model::FluidComponent;
 
 namespace {
 
-// Properties that a fluid of the toolbox can't have.
-constexpr IComponent::Property foreignProperties[] = {
-    IComponent::SPECIFIC_HEAT_A, IComponent::SPECIFIC_HEAT_B, IComponent::SPECIFIC_HEAT_G,
-    IComponent::SPECIFIC_HEAT_H};
+// Properties that a fluid of the toolbox can't have, and their keywords.
+struct ForeignProperty {
+    IComponent::Property key;
+    std::string_view keyword;
+};
+constexpr ForeignProperty foreignProperties[] = {{IComponent::SPECIFIC_HEAT_A, "SPECHA"},
+                                                 {IComponent::SPECIFIC_HEAT_B, "SPECHB"},
+                                                 {IComponent::SPECIFIC_HEAT_G, "SPECHG"},
+                                                 {IComponent::SPECIFIC_HEAT_H, "SPECHH"}};
 
 constexpr std::string_view nonHydrocarbons[] = {"H2", "N2", "H2S", "H2O", "CO2", "CO"};
 
@@ -69,31 +74,32 @@ constexpr Quantity density{"Density", 1.0};
 constexpr Quantity temperature{"AbsoluteTemperature", 1.0};
 constexpr Quantity molarVolume{"MolarVolume", 1000.0}; // per gram-mole, not per kilogram-mole
 
-// What a component has of its own, in the order in which it is copied. The reference density, which
-// takes two properties, comes between the two tables.
+// What a component has of its own, in the order in which it is copied, and the keyword that gives
+// it. The reference density, which takes two properties, comes between the two tables.
 struct CopiedProperty {
     IComponent::Property key;
+    std::string_view keyword; // empty where no keyword gives it
     const Quantity& quantity;
     void (FluidComponent::*set)(double);
 };
 
 // clang-format off
 constexpr CopiedProperty beforeReferenceDensity[] = {
-    {IComponent::MOLECULAR_WEIGHT,              number,      &FluidComponent::SetMolecularWeight},
-    {IComponent::CRITICAL_PRESSURE,             pressure,    &FluidComponent::SetPcrit},
+    {IComponent::MOLECULAR_WEIGHT,              "MW",       number,      &FluidComponent::SetMolecularWeight},
+    {IComponent::CRITICAL_PRESSURE,             "PCRIT",    pressure,    &FluidComponent::SetPcrit},
 };
 constexpr CopiedProperty behindReferenceDensity[] = {
-    {IComponent::CRITICAL_TEMPERATURE,          temperature, &FluidComponent::SetTcrit},
-    {IComponent::CRITICAL_Z_FACTOR,             number,      &FluidComponent::SetZcrit},
-    {IComponent::CRITICAL_VOLUME,               molarVolume, &FluidComponent::SetVcrit},
-    {IComponent::CRITICAL_VOLUME_FOR_VISCOSITY, molarVolume, &FluidComponent::SetVcritViscosity},
-    {IComponent::ACENTRIC_FACTOR,               number,      &FluidComponent::SetAcf},
-    {IComponent::PARACHOR,                      number,      &FluidComponent::SetParachor},
-    {IComponent::VOLUME_SHIFT,                  number,      &FluidComponent::SetEoSVolumeShift},
-    {IComponent::OMEGA_A,                       number,      &FluidComponent::SetOmegaA},
-    {IComponent::OMEGA_B,                       number,      &FluidComponent::SetOmegaB},
-    {IComponent::HEAT_OF_VAPORISATION,          number,      &FluidComponent::SetHeatVapourisation},
-    {IComponent::THERMAL_EXPANSION,             number,      &FluidComponent::SetThermExpCoeff},
+    {IComponent::CRITICAL_TEMPERATURE,          "TCRIT",    temperature, &FluidComponent::SetTcrit},
+    {IComponent::CRITICAL_Z_FACTOR,             "ZCRIT",    number,      &FluidComponent::SetZcrit},
+    {IComponent::CRITICAL_VOLUME,               "VCRIT",    molarVolume, &FluidComponent::SetVcrit},
+    {IComponent::CRITICAL_VOLUME_FOR_VISCOSITY, "VCRITVIS", molarVolume, &FluidComponent::SetVcritViscosity},
+    {IComponent::ACENTRIC_FACTOR,               "ACF",      number,      &FluidComponent::SetAcf},
+    {IComponent::PARACHOR,                      "PARACHOR", number,      &FluidComponent::SetParachor},
+    {IComponent::VOLUME_SHIFT,                  "SSHIFT",   number,      &FluidComponent::SetEoSVolumeShift},
+    {IComponent::OMEGA_A,                       "OMEGAA",   number,      &FluidComponent::SetOmegaA},
+    {IComponent::OMEGA_B,                       "OMEGAB",   number,      &FluidComponent::SetOmegaB},
+    {IComponent::HEAT_OF_VAPORISATION,          "",         number,      &FluidComponent::SetHeatVapourisation},
+    {IComponent::THERMAL_EXPANSION,             "",         number,      &FluidComponent::SetThermExpCoeff},
 };
 // clang-format on
 
@@ -172,21 +178,29 @@ InterfacialTensionMethodOf(const PVOCompositionalModelAdaptor& model) {
 }
 
 void SetModels(const PVOCompositionalModelAdaptor& model, CompositionalFluid& fluid,
-               ErrorReport& report) {
+               ErrorReport& report, DeckPlaces& places) {
+    const auto refuse = [&](std::int32_t id, const char* expected) {
+        report.Add(Failure(id));
+        places.Tell(DeckKinds::modelUnsupported,
+                    std::string("expected ") + expected + ", found another one.");
+    };
+    places.GoTo("EOS");
     try {
         fluid.SetEoS(EquationOfStateOf(model));
     } catch (const IOUnsupportedEoS&) {
-        report.Add(Failure(MessageId::unsupportedEoS));
+        refuse(MessageId::unsupportedEoS, "one of the equations of state PR, RK and SRK");
     }
+    places.GoTo("");
     try {
         fluid.SetViscosityCorrelation(ViscosityMethodOf(model));
     } catch (const IOUnsupportedViscosityModel&) {
-        report.Add(Failure(MessageId::unsupportedViscosityModel));
+        refuse(MessageId::unsupportedViscosityModel, "a viscosity model that a fluid can have");
     }
     try {
         fluid.SetInterfacialTensionMethod(InterfacialTensionMethodOf(model));
     } catch (const IOUnsupportedViscosityModel&) {
-        report.Add(Failure(MessageId::unsupportedInterfacialTensionModel));
+        refuse(MessageId::unsupportedInterfacialTensionModel,
+               "an interfacial tension model that a fluid can have");
     }
 }
 
@@ -212,13 +226,15 @@ void Characterise(CompositionalFluid& fluid) {
 } // namespace
 
 void PVOImporter::BuildFluid(const PVOCompositionalModelAdaptor& model, bool characterise,
-                             CompositionalFluid& fluid, ErrorReport& report) const {
-    if (RefuseForeignProperties(model, report)) {
+                             CompositionalFluid& fluid, ErrorReport& report,
+                             DeckPlaces& places) const {
+    if (RefuseForeignProperties(model, report, places)) {
         return;
     }
     const std::vector<double> fractions = Fractions(model);
-    SetModels(model, fluid, report);
-    SetComponents(model, fractions, fluid, report);
+    SetModels(model, fluid, report, places);
+    SetComponents(model, fractions, fluid, report, places);
+    places.GoTo("BIC");
     SetCoefficients(model, fluid);
     if (characterise) {
         Characterise(fluid);
@@ -226,15 +242,16 @@ void PVOImporter::BuildFluid(const PVOCompositionalModelAdaptor& model, bool cha
 }
 
 bool PVOImporter::RefuseForeignProperties(const PVOCompositionalModelAdaptor& model,
-                                          ErrorReport& report) const {
+                                          ErrorReport& report, DeckPlaces& places) const {
     for (int i = 0; i < model.getNumComponents(); ++i) {
         const IComponent& component = model.getComponent(i);
-        for (const IComponent::Property property : foreignProperties) {
-            if (component.hasProperty(property)) {
-                Log::getCurrentLogger()->write(
-                    Log::Error, fileName + ": component '" + component.getName() +
-                                    "' has a specific heat, which a fluid can't hold; expected a "
-                                    "deck without SPECHA, SPECHB, SPECHG and SPECHH.");
+        for (const ForeignProperty& property : foreignProperties) {
+            if (component.hasProperty(property.key)) {
+                places.GoTo(property.keyword);
+                places.Tell(DeckKinds::specificHeats,
+                            "expected a deck without SPECHA, SPECHB, SPECHG and SPECHH, found a "
+                            "specific heat of component " +
+                                Text::Quote(component.getName()) + ", which a fluid can't hold.");
                 report.Add(Failure(MessageId::deckNotInterpreted));
                 return true;
             }
@@ -245,31 +262,37 @@ bool PVOImporter::RefuseForeignProperties(const PVOCompositionalModelAdaptor& mo
 
 void PVOImporter::SetComponents(const PVOCompositionalModelAdaptor& model,
                                 const std::vector<double>& fractions, CompositionalFluid& fluid,
-                                ErrorReport& report) const {
+                                ErrorReport& report, DeckPlaces& places) const {
     for (int i = 0; i < model.getNumComponents(); ++i) {
         const IComponent& source = model.getComponent(i);
         const std::string& name = source.getName();
+        places.GoTo("CNAMES");
         FluidComponent component(name);
         if (std::ranges::find(nonHydrocarbons, name) != std::end(nonHydrocarbons)) {
             component.SetHydrocarbonForm(pvtEnumHCForm::NonHydrocarbon);
         }
         try {
-            FillComponent(source, component);
+            FillComponent(source, component, places);
         } catch (const RelatedPropertyOutOfRangeException& error) {
             report.Add(PropertyRefused(error.what()));
+            places.Tell(DeckKinds::valueDropped, error.what());
         }
+        places.GoToFractions();
         fluid.SetComponent(component, fractions[static_cast<std::size_t>(i)]);
     }
 }
 
-void PVOImporter::FillComponent(const IComponent& source, FluidComponent& target) const {
+void PVOImporter::FillComponent(const IComponent& source, FluidComponent& target,
+                                DeckPlaces& places) const {
     const auto copy = [&](const CopiedProperty& property) {
         if (source.hasProperty(property.key)) {
+            places.GoTo(property.keyword);
             (target.*property.set)(ToModel(source.getProperty(property.key), property.quantity,
                                            UnitTypeOf(unitSystem)));
         }
     };
     std::ranges::for_each(beforeReferenceDensity, copy);
+    places.GoTo("");
     FillReferenceDensity(source, target);
     std::ranges::for_each(behindReferenceDensity, copy);
 }
