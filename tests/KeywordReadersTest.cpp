@@ -671,3 +671,28 @@ TEST(DepthAndCompositionKeywords, RowsOfFractions) {
     EXPECT_EQ(alone.told, "0:missing-keyword");
     EXPECT_TRUE(alone.result.at(0).LiquidFractions.empty());
 }
+
+TEST(KeywordFiles, SamplesAreSound) {
+    const auto sample = [](const char* name) {
+        return ReadFile(FLUIDBENCH_EXAMPLE_DATA + ("/" + std::string(name)));
+    };
+    EXPECT_EQ(
+        Summary(ReadSound<IO::BlackOilKeywordReader, Regions>(sample("two-region-black-oil.inc"))),
+        "[830 0 oil 30: 45; 75: 98 160 220; dry 50; 100; 200;]"
+        "[805 0 oil 60: 80 150 210; 123: 158.8; dry 50; 100; 200;]");
+    const auto kValues = ReadSound<IO::KValuesKeywordReader, std::vector<KValuesTable>>(
+        sample("two-temperatures-k-values.inc"));
+    EXPECT_EQ(kValues.at(1).GetTableSize(), 3U);
+    EXPECT_NEAR(kValues[1].Temperature, 344.261, 1e-3);
+    EXPECT_TRUE((ReadSound<IO::ThermalKeywordReader, ThermalExportTable>(
+                     sample("two-component-thermal.inc")))
+                    .HasCrookstonData());
+    EXPECT_EQ((ReadSound<IO::DepthTableReader, std::vector<IO::DepthTable>>(
+                   sample("north-flank-depth.inc")))
+                  .size(),
+              3U);
+    EXPECT_EQ((ReadSound<IO::CompositionTableReader, std::vector<IO::CompositionTable>>(
+                   sample("north-flank-compositions.inc")))
+                  .size(),
+              1U);
+}

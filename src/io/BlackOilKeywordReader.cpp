@@ -22,6 +22,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <deque>
 #include <iterator>
 #include <string_view>
 #include <utility>
@@ -80,11 +81,22 @@ std::string Shown(double number) {
     return text;
 }
 
-// The table of one region, in the units of the file.
+// The table of one region, in the units of the file. Its entries lie in blocks, which are given
+// back one by one when they are converted, so that the rows never take twice their memory.
 struct Table {
-    std::vector<Entry> entries;
+    std::deque<std::vector<Entry>> blocks;
     std::vector<std::size_t> recordEnds;
+    std::size_t size = 0;
     std::uint64_t line = 0;
+
+    Entry& Append() {
+        constexpr std::size_t entriesOfBlock = 2048;
+        if (size++ % entriesOfBlock == 0) {
+            blocks.emplace_back().reserve(entriesOfBlock);
+        }
+        return blocks.back().emplace_back();
+    }
+    const Entry& Last() const { return blocks.back().back(); }
 };
 
 struct Content {
@@ -105,19 +117,19 @@ public:
         const FileNumber property(units.property, isLong_);
         const FileNumber volumeFactor(units.formationVolumeFactor, isLong_);
         const FileNumber viscosity(Units::Viscosity_Pas_To_cp, isLong_);
-        for (Entry& entry : table.entries) {
-            entry.pressure = pressure.ToModel(entry.pressure);
-            entry.property = layout.hasRecords     ? property.ToModel(entry.property)
-                             : layout.showsEachRow ? 0.0
-                                                   : gasOilRatio;
-            entry.formationVolumeFactor = volumeFactor.ToModel(entry.formationVolumeFactor);
-            entry.viscosity = viscosity.ToModel(entry.viscosity);
-        }
         BlackOilDataRecords records;
-        std::size_t begin = 0;
-        for (const std::size_t end : table.recordEnds) {
-            records.AddRecord(std::span(table.entries).subspan(begin, end - begin));
-            begin = end;
+        std::size_t index = 0;
+        std::uint64_t record = 0;
+        for (; !table.blocks.empty(); table.blocks.pop_front()) {
+            for (const Entry& entry : table.blocks.front()) {
+                const double ratio = layout.hasRecords     ? property.ToModel(entry.property)
+                                     : layout.showsEachRow ? 0.0
+                                                           : gasOilRatio;
+                records.AddEntry(record, pressure.ToModel(entry.pressure), ratio,
+                                 volumeFactor.ToModel(entry.formationVolumeFactor),
+                                 viscosity.ToModel(entry.viscosity));
+                record += ++index == table.recordEnds[record] ? 1 : 0;
+            }
         }
         return records;
     }
@@ -209,7 +221,7 @@ void Reader::ReadLiveRecords(const Layout& layout, Table& table) {
     double previousRecord = 0.0;
     double previousPressure = 0.0;
     while (walker_.ReadRow(first, layout.record)) {
-        if (!table.entries.empty()) {
+        if (table.size > 0) {
             RequireOrder(RowOrder::Rising, previousRecord, first[0], "that of the record ahead");
             if (layout.order == RowOrder::Rising) {
                 RequireOrder(RowOrder::Rising, previousPressure, first[1],
@@ -224,7 +236,7 @@ void Reader::ReadLiveRecords(const Layout& layout, Table& table) {
             RequireOrder(layout.order, previous, row[0], "that of the row ahead");
             AddRow(layout, table, first[0], row.data());
         }
-        table.recordEnds.push_back(table.entries.size());
+        table.recordEnds.push_back(table.size);
     }
 }
 
@@ -239,7 +251,7 @@ void Reader::ReadDeadRows(const Layout& layout, Table& table) {
     while (const std::size_t count = walker_.ReadRowPart(row, layout.row)) {
         const bool isWhole = count == row.size();
         const bool isOneLine = walker_.RowLine() == walker_.Line();
-        const bool isInOrder = table.entries.empty() || row[0] > table.entries.back().pressure;
+        const bool isInOrder = table.size == 0 || row[0] > table.Last().pressure;
         if (layout.showsEachRow && (isWhole ? !isOneLine && !isInOrder : count == 2)) {
             failPressure();
         }
@@ -248,21 +260,20 @@ void Reader::ReadDeadRows(const Layout& layout, Table& table) {
                          "'/' behind " + std::to_string(count) + " of them");
         }
         if (!isInOrder) {
-            RequireOrder(RowOrder::Rising, table.entries.back().pressure, row[0],
-                         "that of the row ahead");
+            RequireOrder(RowOrder::Rising, table.Last().pressure, row[0], "that of the row ahead");
         }
         AddRow(layout, table, 0.0, row.data());
         if (layout.showsEachRow) {
-            table.recordEnds.push_back(table.entries.size());
+            table.recordEnds.push_back(table.size);
         }
     }
-    if (!layout.showsEachRow && !table.entries.empty()) {
-        table.recordEnds.push_back(table.entries.size());
+    if (!layout.showsEachRow && table.size > 0) {
+        table.recordEnds.push_back(table.size);
     }
 }
 
 void Reader::AddRow(const Layout& layout, Table& table, double ofRecord, const double* row) {
-    Entry& entry = table.entries.emplace_back();
+    Entry& entry = table.Append();
     if (layout.hasRecords) {
         entry.*layout.ofRecord = ofRecord;
     }
@@ -287,12 +298,12 @@ void Reader::RequireOrder(RowOrder order, double previous, double next, std::str
 void Reader::DropEmptyTables() {
     for (std::vector<Table>& tables : content_.tables) {
         for (const Table& table : tables) {
-            if (table.entries.empty()) {
+            if (table.size == 0) {
                 walker_.Tell(Kinds::noRows, table.line,
                              "Expected rows of numbers ahead of the table's end, found none.");
             }
         }
-        while (tables.size() > 1 && tables.back().entries.empty()) {
+        while (tables.size() > 1 && tables.back().size == 0) {
             tables.pop_back();
         }
     }
