@@ -62,8 +62,6 @@ public:
     KeywordLexer(std::istream& stream, const std::string& name) : file_(stream, name) {}
 
     const KeywordFile& File() const noexcept { return file_; }
-    /// What the text looks like.
-    TextKind Kind() { return file_.Kind(); }
 
     /// Goes on behind a token: where `File()` had this offset and line.
     void MoveTo(std::uint64_t offset, std::uint64_t line);

@@ -66,7 +66,6 @@ RefusedText::RefusedText(const DiagnosticKind& refusal, const FilePlace& place,
                          const std::string& found)
     : KeywordError(place, keyword, expected, found),
       kind_(&refusal),
-      place_(place),
       sentence_(Expected(expected, found)) {}
 
 KeywordWalker::KeywordWalker(std::unique_ptr<KeywordLexer> text,
@@ -263,7 +262,7 @@ std::unique_ptr<KeywordLexer> KeywordWalker::OpenIncluded(const std::string& pat
         try {
             const std::u8string name = (folder / Text::PathOf(each)).u8string();
             return std::make_unique<KeywordLexer>(std::string(name.begin(), name.end()));
-        } catch (const Text::ReadFailed&) {
+        } catch (const Text::KeywordFileError&) {
             throw;
         } catch (const std::runtime_error& error) {
             reason = reason.empty() ? error.what() : reason;
@@ -567,7 +566,7 @@ ErrorReport WalkKeywords(const KeywordSource& source, const DiagnosticSink& sink
         }
         try {
             return std::make_unique<KeywordLexer>(source.name);
-        } catch (const Text::ReadFailed&) {
+        } catch (const Text::KeywordFileError&) {
             throw;
         } catch (const std::runtime_error& error) {
             const std::string sentence = Expected("a file to read", error.what());
@@ -578,19 +577,16 @@ ErrorReport WalkKeywords(const KeywordSource& source, const DiagnosticSink& sink
     };
     try {
         if (auto text = open()) {
-            const Text::TextKind kind = text->Kind();
-            TellOddText(diagnostics, kind);
-            if (kind != Text::TextKind::Plain) {
-                refuse(source.name + ": expected plain text, found other characters or line ends.");
-            } else {
-                KeywordWalker walker(std::move(text), wanted, diagnostics);
-                read(walker);
-            }
+            KeywordWalker walker(std::move(text), wanted, diagnostics);
+            read(walker);
         }
     } catch (const RefusedText& refusal) {
         diagnostics.Tell(refusal.Kind(), refusal.Place().file, refusal.Place().line,
                          refusal.Sentence());
         refuse(refusal.what());
+    } catch (const Text::OddText& odd) {
+        TellOddText(diagnostics, odd.Kind());
+        refuse(odd.what());
     } catch (const Text::ReadFailed& failure) {
         TellReadFailed(diagnostics, failure.Place().line);
         refuse(failure.what());

@@ -32,13 +32,11 @@ public:
                 std::string_view keyword, const std::string& expected, const std::string& found);
 
     const DiagnosticKind& Kind() const noexcept { return *kind_; }
-    const Text::FilePlace& Place() const noexcept { return place_; }
     /// "Expected ..., found ...", without the place.
     const std::string& Sentence() const noexcept { return sentence_; }
 
 private:
     const DiagnosticKind* kind_;
-    Text::FilePlace place_;
     std::string sentence_;
 };
 
