@@ -73,9 +73,10 @@ void WriteBlackOil(Table table) {
 void ReadTable(std::int64_t table) {
     std::vector<BlackOilTable> regions;
     const ErrorReport report = BlackOilKeywordReader().Read(FileOf(table), regions);
-    Require(!report.HasErrors() && regions.size() == 1 &&
-            (table == oil ? regions[0].GetLiveOilData() : regions[0].GetWetGasData())
-                    .GetTableSize() == rows / rowsPerRecord);
+    Require(
+        !report.HasErrors() && regions.size() == 1 &&
+        (table == oil ? regions[0].GetLiveOilData() : regions[0].GetWetGasData()).GetTableSize() ==
+            rows / rowsPerRecord);
 }
 
 void Read(benchmark::State& state) {

@@ -344,7 +344,7 @@ TEST_F(ToolTest, ShowsNothingThatATerminalWouldObey) {
     folder.Write(evil + ".dat", "CNAMES\n'" + evil + "' C2 /\nMW\n16 30 /\nTCRIT\n1 /\n");
     folder.Write("good.dat", "CNAMES\n'" + evil + "' C2 /\n-- Units: K\nTCRIT\n100 200 /\n");
     const Outcome bad = Tool("deck show *2J*.dat");
-    EXPECT_TRUE(Contains(bad.messages, shown + ".dat: error: ")) << bad.messages;
+    EXPECT_TRUE(Contains(bad.messages, shown + ".dat:6: error: ")) << bad.messages;
     EXPECT_TRUE(Contains(Tool("deck show good.dat").output, "\n" + shown + " "));
     EXPECT_TRUE(Contains(Tool("deck show good.dat --json").output,
                          R"("name": "\u001b[2J\ufffd\u009b\u202e\ud83d\udee2")"));

@@ -19,8 +19,10 @@ namespace FluidBenchTool {
 using Orv::FluidBench::Common::pvtEnumPVOErrorSeverityLevel;
 using Orv::FluidBench::Common::pvtEnumPVOUnitSystemType;
 using Orv::FluidBench::Common::Units;
+using Orv::FluidBench::IO::Diagnostic;
 using Orv::FluidBench::IO::PVOFileReader;
 using Orv::FluidBench::IO::PVOFileWriter;
+using Orv::FluidBench::IO::Severity;
 using UnitSystem = pvtEnumPVOUnitSystemType;
 
 namespace {
@@ -179,12 +181,18 @@ FluidFile ReadDeck(Input& input, Call& call) {
     PVOFileReader reader;
     reader.SetPVOName(input.FileName());
     reader.SetPVOUnitSystem(units == Units::FIELD ? UnitSystem::Field : UnitSystem::Metric);
-    reader.SetPVOErrorMessageSeverityLevel(call.Asked().Has(verbose)
-                                               ? pvtEnumPVOErrorSeverityLevel::Debug
-                                               : pvtEnumPVOErrorSeverityLevel::Warning);
+    // The simulator's logger prints on its own; what it has to say comes to the sink too.
+    reader.SetPVOErrorMessageSeverityLevel(pvtEnumPVOErrorSeverityLevel::Fatal);
+    const bool isVerbose = call.Asked().Has(verbose);
+    reader.SetDiagnosticSink([&messages, isVerbose](const Diagnostic& diagnostic) {
+        if (isVerbose || diagnostic.severity > Severity::Note) {
+            messages.Tell(diagnostic);
+        }
+    });
     FluidFile file;
     messages.TellReport(reader.Read(file.fluid, !units), input.Name(), errors);
     file.isField = reader.GetPVOUnitSystemToUse() == UnitSystem::Field;
+    file.reservoirTemperature = reader.GetReservoirTemperature();
     return file;
 }
 

@@ -79,6 +79,7 @@ FluidFile ReadMfl(Input& input, Call& call) {
     const std::uint64_t errors = messages.Errors();
     MFLFileReader reader;
     reader.SetMFLFileName(input.FileName());
+    reader.SetDiagnosticSink(messages.Sink());
     FluidFile file;
     messages.TellReport(reader.ReadStreams(file.fluid, file.streams), input.Name(), errors);
     return file;

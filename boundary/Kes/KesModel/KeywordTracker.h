@@ -34,14 +34,14 @@ public:
 
     /// Where a keyword stands.
     struct Place {
-        std::string file;
-        std::uint64_t line = 0;
+        std::string file;       ///< as it was named
+        std::uint64_t line = 0; ///< counted from 1
     };
 
     /// A keyword whose data are read.
     struct Read {
-        std::string keyword;
-        Place place;
+        std::string keyword; ///< in capitals
+        Place place;         ///< of the keyword
     };
     /// Remembers it.
     void addRead(Read read);
@@ -52,11 +52,13 @@ public:
 
     /// A keyword that names the unit system of the deck, or of its fluid's numbers.
     struct StatedUnits {
-        std::string keyword;
-        bool isMetric = false;
-        Place place;
+        std::string keyword;   ///< METRIC, FIELD or FILEUNIT
+        bool isMetric = false; ///< or else field
+        Place place;           ///< of the keyword
     };
+    /// Remembers it.
     void addStatedUnits(StatedUnits units);
+    /// All of them in the order of the deck. Valid until the next one is added.
     const std::vector<StatedUnits>& getStatedUnits() const { return statedUnits_; }
 
 private:

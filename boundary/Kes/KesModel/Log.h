@@ -65,11 +65,11 @@ private:
 
 /// A message of a deck's reading, in its parts.
 struct LogMessage {
-    Log::Severity severity = Log::Error;
-    std::string file;       ///< the deck or what it includes, as it was named
-    std::uint64_t line = 0; ///< counted from 1; 0 where no line applies
-    const char* code = "";  ///< stable, "deck.refused" for one; valid as long as the program runs
-    std::string text;       ///< a sentence without the place
+    Log::Severity severity = Log::Error; ///< how much it matters
+    std::string file;                    ///< the deck or what it includes, as it was named
+    std::uint64_t line = 0;              ///< counted from 1; 0 where no line applies
+    const char* code = ""; ///< stable, "deck.refused" for one; valid as long as the program runs
+    std::string text;      ///< a sentence without the place
 };
 
 /// While it lives, the messages of decks that are read on the thread that made it come to its
@@ -79,8 +79,10 @@ struct LogMessage {
 /// What the function throws reaches whoever tells the message.
 class FLUIDBENCH_BOUNDARY_API ThreadListener {
 public:
+    /// Takes the messages, one after another.
     using Function = std::function<void(const LogMessage&)>;
 
+    /// Listens from now on. The function must not be empty.
     explicit ThreadListener(Function function);
     ~ThreadListener();
     ThreadListener(const ThreadListener&) = delete;
