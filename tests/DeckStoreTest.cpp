@@ -122,9 +122,10 @@ TEST(DeckStoreTest, AModelMakesItsObjectsWhenAsked) {
 TEST(DeckStoreTest, FindsComponentsByIndexAndName) {
     PVOCompositionalModelAdaptor model("F", Common::Units::METRIC);
     const PVOCompositionalModelAdaptor& constant = model;
-    EXPECT_EQ(model.getNumComponents() + model.getEquationOfState() + model.getViscosityModel() +
-                  model.getInterfacialTensionModel(),
-              0);
+    EXPECT_EQ(model.getNumComponents(), 0);
+    EXPECT_EQ(model.getEquationOfState(), 0);
+    EXPECT_EQ(model.getViscosityModel(), 0);
+    EXPECT_EQ(model.getInterfacialTensionModel(), 0);
     for (const char* const name : {"C1", "C2", "C1"}) {
         model.makeComponent(name);
     }
@@ -151,38 +152,12 @@ TEST(DeckStoreTest, FindsComponentsByIndexAndName) {
 
 TEST(DeckStoreTest, AnswersWhatAFluidDoesNotHave) {
     PVOCompositionalModelAdaptor model("F", Common::Units::METRIC);
-    const PVOCompositionalModelAdaptor& constant = model;
-    const IComponent& component = model.makeComponent("C1");
-    const std::pair<std::string, std::function<void()>> refused[] = {
-        {noAqueousComponents, [&] { model.getAqueousSolubleComponent("C1"); }},
-        {noAqueousComponents, [&] { constant.getAqueousSolubleComponent("C1"); }},
-        {noAqueousComponents, [&] { model.getAqueousSolubleComponent(0); }},
-        {noAqueousComponents, [&] { constant.getAqueousSolubleComponent(0); }},
-        {noAqueousComponents, [&] { model.getAqueousSolubleComponent(component); }},
-        {noAqueousComponents, [&] { constant.getAqueousSolubleComponent(component); }},
-        {notImplemented, [&] { model.makeDiffusionTable(0, 0); }},
-        {notImplemented, [&] { constant.getDiffusionTable(0, 0); }},
-        {notImplemented, [&] { model.makeKValueTable(); }},
-        {notImplemented, [&] { model.getKValueTable(); }},
-        {notImplemented, [&] { model.makeSolidTable(); }},
-        {notImplemented, [&] { model.getSolidTable("A"); }},
-        {notImplemented, [&] { model.makeReactionModel(); }},
-        {notImplemented, [&] { model.getReactionModel(); }},
-        {notImplemented, [&] { constant.getReactionModel(); }},
-    };
-    for (const auto& [text, call] : refused) {
-        EXPECT_EQ(TextOf<std::runtime_error>(call), text);
-    }
-    model.setReservoirTemperature(350.0);
-    model.setSolidDensity(2000.0);
-    model.setUsesSurfaceEquationOfState(true);
-    EXPECT_EQ(model.getReservoirTemperature() + model.getSolidDensity(), 0.0);
-    EXPECT_FALSE(model.usesSurfaceEquationOfState() || model.hasReactionModel() ||
-                 model.hasDiffusionTables() || model.hasAqueousSolubleComponent("C1") ||
-                 model.isThermal());
-    EXPECT_EQ(model.getNumReactions() + model.getNumSurfaceStages("A") +
-                  model.getNumSurfaceStreams() + model.getNumAqueousSolubleComponents(),
-              0);
+    EXPECT_EQ(TextOf<std::runtime_error>([&] { model.getAqueousSolubleComponent(0); }),
+              noAqueousComponents);
+    EXPECT_EQ(TextOf<std::runtime_error>([&] { model.makeKValueTable(); }), notImplemented);
+    model.setReservoirTemperature(350.0); // one of many that store nothing
+    EXPECT_EQ(model.getReservoirTemperature(), 0.0);
+    EXPECT_FALSE(model.hasAqueousSolubleComponent("C1"));
     EXPECT_EQ(model.getKValueTableNames(), Names());
 }
 
@@ -212,7 +187,7 @@ TEST(DeckStoreTest, AComponentHoldsNumbersByKeys) {
     component.setViscosity(7, 2);
     component.setAttribute3(3);
     EXPECT_TRUE(component.hasProperty(4));
-    EXPECT_EQ(component.getAttribute1() + component.getKind(), 0);
+    EXPECT_EQ(component.getAttribute1(), 0);
 
     PVOComponentAdaptor copy = component;
     component.deleteProperty(4);
@@ -272,20 +247,18 @@ TEST(DeckStoreTest, AdmitsFluidKeywordsToTheLetter) {
     EXPECT_EQ(validator.getKeywordValidator2(), nullptr);
     EXPECT_EQ(validator.getKeywordValidator4(), nullptr);
     const auto* const fluids = validator.getFluidsKeywordValidator();
-    const std::string valid[] = {
-        "CNAMES", "BIC",      "EOS",      "OMEGAA", "OMEGAB", "MW",     "ACF",
-        "SSHIFT", "PARACHOR", "TCRIT",    "PCRIT",  "VCRIT",  "ZCRIT",  "VCRITVIS",
-        "SPECHA", "ZCRITVIS", "PEDERSEN", "SPECHB", "SPECHG", "SPECHH", "BICS",
-        "EOSS",   "OMEGAAS",  "OMEGABS",  "MWS",    "ACFS",   "TCRITS", "SSHIFTS",
-        "PCRITS", "VCRITS",   "ZCRITS",   "ZI",     "ZMFVD",  "RTEMP"};
-    EXPECT_EQ(std::size(valid), 34U);
-    for (const std::string& name : valid) {
-        EXPECT_TRUE(fluids->isValidKeyword(name)) << name;
-        EXPECT_TRUE(fluids->isValidKeyword(KeywordIterator(Keyword(name)))) << name;
-    }
-    for (const char* const name : {"", "tcrit", "TCRIT ", "TCRI", "NCOMPS", "PRCORR", "LBCCOEF"}) {
-        EXPECT_FALSE(fluids->isValidKeyword(std::string(name))) << name;
-        EXPECT_FALSE(fluids->isValidKeyword(KeywordIterator(Keyword(name)))) << name;
+    // Which keywords these are, the test of reading them holds.
+    for (const auto& [name, isValid] : {std::pair{"MW", true},
+                                        {"MWS", true},
+                                        {"", false},
+                                        {"tcrit", false},
+                                        {"TCRIT ", false},
+                                        {"TCRI", false},
+                                        {"NCOMPS", false},
+                                        {"PRCORR", false},
+                                        {"LBCCOEF", false}}) {
+        EXPECT_EQ(fluids->isValidKeyword(std::string(name)), isValid) << name;
+        EXPECT_EQ(fluids->isValidKeyword(KeywordIterator(Keyword(name))), isValid) << name;
     }
 }
 
@@ -332,7 +305,8 @@ TEST(DeckStoreTest, TheSimulatorsTablesRefusePlacesThatTheyLack) {
 
     StdTracerModel tracer("T");
     tracer.makeDepthTable(2);
-    EXPECT_EQ(tracer.getNumOfDepthTables() + tracer.getNumOfDepthTablesOfType(2), 2);
+    EXPECT_EQ(tracer.getNumOfDepthTables(), 1);
+    EXPECT_EQ(tracer.getNumOfDepthTablesOfType(2), 1);
     EXPECT_THROW(tracer.getDepthTable(2, 1), std::out_of_range);
     EXPECT_THROW(tracer.getDepthTable(1, 0), std::out_of_range);
     tracer.deleteDepthTable(2, 0);

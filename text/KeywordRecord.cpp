@@ -33,8 +33,15 @@ KeywordRecord::KeywordRecord(const KeywordPlace& place)
 
 std::size_t KeywordRecord::ReadNumbers(const ItemCount& count, const TakeNumber& take) {
     std::size_t index = 0;
-    for (Token item = NextItem(count.meaning); item.kind != Kind::Slash;
-         item = NextItem(count.meaning)) {
+    for (;;) {
+        double plain = 0.0;
+        while (index < count.most && lexer_.TakeNumber(plain) != 0) {
+            take(index++, &plain);
+        }
+        const Token item = NextItem(count.meaning);
+        if (item.kind == Kind::Slash) {
+            break;
+        }
         const auto repeated = item.kind == Kind::Word ? ParseRepeated(item.text) : std::nullopt;
         if (!repeated) {
             Fail(index < count.least ? "a number" : "a number or '/'", Describe(item));

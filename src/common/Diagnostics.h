@@ -32,7 +32,7 @@ public:
     void Tell(const DiagnosticKind& kind, const std::string& file, std::uint64_t line,
               const std::string& sentence);
 
-    /// The same about a file that belongs to this one, an included one for instance.
+    /// Of another source, with a severity and a code of its own.
     void Tell(const FluidBench::IO::Diagnostic& diagnostic);
 
     /// To be called when the file is read: counts what wasn't told one by one.

@@ -21,12 +21,16 @@ void DeckPlaces::GoToFractions() {
     }
 }
 
-void DeckPlaces::Tell(const DiagnosticKind& kind, const std::string& sentence) const {
+void DeckPlaces::Tell(const DiagnosticKind& kind, std::string sentence) const {
     const KeywordTracker::Place* const place = tracker_.findRead(std::string(keyword_));
-    diagnostics_.Tell(
-        {kind.severity, place != nullptr ? place->file : fileName_,
-         place != nullptr ? place->line : 0, kind.code,
-         keyword_.empty() ? sentence : "Keyword " + std::string(keyword_) + ": " + sentence});
+    if (!keyword_.empty()) {
+        sentence.insert(0, "Keyword " + std::string(keyword_) + ": ");
+    }
+    if (!sentence.ends_with('.')) { // the toolbox's have none
+        sentence += '.';
+    }
+    diagnostics_.Tell(kind, place != nullptr ? place->file : fileName_,
+                      place != nullptr ? place->line : 0, sentence);
 }
 
 } // namespace Orv::FluidBench::Impl::IO

@@ -25,8 +25,8 @@ public:
     /// The same for the fractions: of the keywords that give them, the one that was read last.
     void GoToFractions();
 
-    /// Tells a sentence about the keyword, which it then begins with.
-    void Tell(const DiagnosticKind& kind, const std::string& sentence) const;
+    /// Tells a sentence about the keyword, which it then begins with; a full stop may lack.
+    void Tell(const DiagnosticKind& kind, std::string sentence) const;
 
 private:
     const Kes::KesModel::KeywordTracker& tracker_;

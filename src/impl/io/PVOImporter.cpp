@@ -242,11 +242,10 @@ void PVOImporter::TellUnits(const KeywordTracker& tracker, bool areDetected, boo
             : isRecord   ? "tell the units, or write the word in capitals on the line behind "
                            "FILEUNIT, in the deck itself and ahead of any comment on units"
                          : "tell the units, or add a FILEUNIT record";
-        diagnostics.Tell({DeckKinds::otherUnits.severity, stated.place.file, stated.place.line,
-                          DeckKinds::otherUnits.code,
-                          "Expected numbers in " + used + " units, in which they are read, found " +
-                              (isRecord ? "FILEUNIT " : "") +
-                              (stated.isMetric ? "METRIC" : "FIELD") + ": " + wayOut + '.'});
+        diagnostics.Tell(DeckKinds::otherUnits, stated.place.file, stated.place.line,
+                         "Expected numbers in " + used + " units, in which they are read, found " +
+                             (isRecord ? "FILEUNIT " : "") +
+                             (stated.isMetric ? "METRIC" : "FIELD") + ": " + wayOut + '.');
     }
     if (areAssumed && !isStated) {
         diagnostics.Tell(DeckKinds::unitsAssumed, 0,
