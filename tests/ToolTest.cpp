@@ -378,6 +378,8 @@ TEST_F(ToolTest, ShowsHeadAndTailOfALongTableInLittleMemory) {
                                      "  ... 199970 more rows, which --all shows ...\n"))
         << run.output;
     EXPECT_EQ(std::ranges::count(run.output, '\n'), 40);
+#ifndef __SANITIZE_ADDRESS__ // which keeps memory of its own, and freed memory too
     EXPECT_LT(static_cast<std::size_t>(usage.ru_maxrss) * 1024, 4 * text.size());
+#endif
     EXPECT_EQ(Shell("TOOL blackoil show long.csv --all | wc -l").output, "200009\n");
 }
