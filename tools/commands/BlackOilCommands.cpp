@@ -6,6 +6,7 @@
 #include "FluidBench/Model/BlackOilTable.h"
 #include "FormatFinder.h"
 #include "Progress.h"
+#include "TableFiles.h"
 #include "io/BlackOilExportFileWriter.h"
 
 #include <algorithm>
@@ -37,12 +38,9 @@ constexpr std::pair<std::string_view, Writer::EXPORT_TYPE> tableChoices[] = {
     {"dead-wet", Writer::DEAD_OIL_WET_GAS},
     {"dead-dry", Writer::DEAD_OIL_DRY_GAS}};
 
-struct BlackOilFile {
-    std::vector<BlackOilTable> regions;
-    bool hasKeywords = false;
-};
+} // namespace
 
-BlackOilFile ReadTables(Input& input, Call& call) {
+BlackOilFile ReadBlackOil(Input& input, Call& call) {
     Messages& messages = call.Told();
     const Progress progress(messages, "Reading " + input.Name());
     const std::uint64_t errors = messages.Errors();
@@ -63,9 +61,11 @@ BlackOilFile ReadTables(Input& input, Call& call) {
     return file;
 }
 
+namespace {
+
 BlackOilFile ReadTables(std::size_t operand, Call& call) {
     Input input(call.Operand(operand), call.Told());
-    return ReadTables(input, call);
+    return ReadBlackOil(input, call);
 }
 
 BlackOilTable TakeRegion(BlackOilFile& file, Call& call) {
@@ -413,7 +413,7 @@ std::span<const Command> BlackOilCommands() {
 }
 
 void CheckBlackOil(Input& input, Call& call) {
-    ReadTables(input, call);
+    ReadBlackOil(input, call);
 }
 
 } // namespace FluidBenchTool

@@ -8,6 +8,7 @@
 #include "NumberText.h"
 #include "Progress.h"
 #include "ShownUnit.h"
+#include "TableFiles.h"
 #include "io/PVOFileWriter.h"
 
 #include <string>
@@ -40,13 +41,6 @@ constexpr ShownUnit psia {"psia",     Units::Pressure_Pa_To_psi};
 constexpr ShownUnit ratio{"m3/m3"};
 constexpr ShownUnit mscf {"Mscf/stb", Units::GOR_m3m3_To_Mscfstb};
 // clang-format on
-
-struct DepthRun {
-    std::vector<std::string> components;
-    ExperimentResults results;
-    std::vector<std::string> kinds; // of the stages: gas, oil, and contact for the contact stage
-    std::vector<const Stage*> rows; // the stages and the contact, in the order of the file
-};
 
 // Rows, all in m, bar and m3/m3:
 //
@@ -115,7 +109,9 @@ void RunReader::Read(DepthRun& run) {
     }
 }
 
-void ReadRun(Input& input, Call& call, DepthRun& run) {
+} // namespace
+
+void ReadDepthRun(Input& input, Call& call, DepthRun& run) {
     const Progress progress(call.Told(), "Reading " + input.Name());
     if (FindFormat(input.Text()).hasKeywords) {
         call.Told().Fail(ToolKinds::keywordForm, input.Name(),
@@ -124,6 +120,8 @@ void ReadRun(Input& input, Call& call, DepthRun& run) {
     }
     RunReader(input, call).Read(run);
 }
+
+namespace {
 
 Table TableOfRun(const DepthRun& run, bool field, std::string (*text)(double)) {
     const ShownUnit& depth = field ? foot : metre;
@@ -173,7 +171,7 @@ void Show(Call& call) {
     const ShowForm form = ShowFormOf(call);
     Input input(call.Operand(0), call.Told());
     DepthRun run;
-    ReadRun(input, call, run);
+    ReadDepthRun(input, call, run);
     const bool field = IsField(call, Options::showUnits);
     switch (form) {
     case ShowForm::Text:
@@ -202,7 +200,7 @@ void Convert(Call& call) {
     const auto units = UnitsOf(call.Asked().Value(Options::toUnits, "metric"));
     Input input(call.Operand(0), call.Told());
     DepthRun run;
-    ReadRun(input, call, run);
+    ReadDepthRun(input, call, run);
     const PVOFileWriter writer;
     call.Write(call.Operand(1), [&](std::ostream& out) {
         if (which == "compositions") {
@@ -232,7 +230,7 @@ std::span<const Command> DepthCommands() {
 
 void CheckDepth(Input& input, Call& call) {
     DepthRun run;
-    ReadRun(input, call, run);
+    ReadDepthRun(input, call, run);
 }
 
 } // namespace FluidBenchTool

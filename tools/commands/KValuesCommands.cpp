@@ -7,6 +7,7 @@
 #include "Json.h"
 #include "Progress.h"
 #include "ShownUnit.h"
+#include "TableFiles.h"
 #include "io/KValuesExportFileWriter.h"
 
 #include <optional>
@@ -56,7 +57,9 @@ KValuesTable ReadRows(Input& input, Call& call) {
     return *table;
 }
 
-KValuesTable ReadTable(Input& input, Call& call) {
+} // namespace
+
+KValuesTable ReadKValues(Input& input, Call& call) {
     Messages& messages = call.Told();
     const Progress progress(messages, "Reading " + input.Name());
     if (FindFormat(input.Text()).hasKeywords) {
@@ -67,9 +70,11 @@ KValuesTable ReadTable(Input& input, Call& call) {
     return ReadRows(input, call);
 }
 
+namespace {
+
 KValuesTable ReadTable(std::size_t operand, Call& call) {
     Input input(call.Operand(operand), call.Told());
-    return ReadTable(input, call);
+    return ReadKValues(input, call);
 }
 
 Table TableOfRecords(const KValuesTable& table, const ShownUnit& pressure,
@@ -243,7 +248,7 @@ std::span<const Command> KValuesCommands() {
 }
 
 void CheckKValues(Input& input, Call& call) {
-    ReadTable(input, call);
+    ReadKValues(input, call);
 }
 
 } // namespace FluidBenchTool
