@@ -24,18 +24,20 @@ What holds everywhere:
 from ._errors import Diagnostic, FluidBenchError, FluidBenchWarning, Message
 from ._results import Results
 from .black_oil import BlackOil, read_black_oil, write_black_oil
+from .compositions import Compositions, read_compositions, write_compositions
 from .deck import read_deck, write_deck
-from .depth_tables import DepthTable, write_depth_tables
+from .depth_tables import DepthTable, read_depth_tables, write_depth_tables
 from .dfa import Dfa, read_dfa
 from .envelopes import EnvelopeLine, read_envelopes, write_envelopes
 from .fluid import Fluid
-from .k_values import KValues, write_k_values
+from .k_values import KValues, read_k_values, write_k_values
 from .mfl import Mfl, read_mfl
-from .thermal import Thermal, write_thermal
+from .thermal import Thermal, read_thermal, write_thermal
 from . import _log as _log  # puts the simulator's log into Python's
 
 __all__ = [
     "BlackOil",
+    "Compositions",
     "DepthTable",
     "Dfa",
     "Diagnostic",
@@ -49,11 +51,16 @@ __all__ = [
     "Results",
     "Thermal",
     "read_black_oil",
+    "read_compositions",
     "read_deck",
+    "read_depth_tables",
     "read_dfa",
     "read_envelopes",
+    "read_k_values",
     "read_mfl",
+    "read_thermal",
     "write_black_oil",
+    "write_compositions",
     "write_deck",
     "write_depth_tables",
     "write_envelopes",

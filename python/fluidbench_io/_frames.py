@@ -1,7 +1,7 @@
 """Data frames of columns with units, and what a frame has to hold that is written."""
 
 import difflib
-from typing import Dict, Iterable, List, Mapping, Sequence
+from typing import Dict, Iterable, List, Mapping, Optional, Sequence
 
 import numpy as np
 import numpy.typing as npt
@@ -17,6 +17,14 @@ def with_units(frame: pd.DataFrame, units: Units) -> pd.DataFrame:
     """The frame itself, with its columns' units in `attrs`."""
     frame.attrs["units"] = dict(units)
     return frame
+
+
+def by(
+    index: Array, name: str, unit: str, values: Array, columns: Sequence[str], value_unit: str = "1"
+) -> pd.DataFrame:
+    """Values by the pressure or the depth along the index."""
+    frame = pd.DataFrame(values, index=pd.Index(index, name=name), columns=list(columns))
+    return with_units(frame, {name: unit, **dict.fromkeys(columns, value_unit)})
 
 
 def require_frame(frame: object, what: str) -> pd.DataFrame:
@@ -92,6 +100,16 @@ def number(value: object, what: str) -> float:
     if not np.isfinite(value):
         raise FluidBenchError(f"{what} has to be a number, not {value}")
     return float(value)
+
+
+def component_names(given: Optional[Sequence[str]], count: int) -> List[str]:
+    """The names that the caller gives for so many columns, or else their numbers."""
+    if given is None:
+        return [str(i + 1) for i in range(count)]
+    names = names_of(given, "components")
+    if len(names) != count:
+        raise FluidBenchError(f"the file has {count} components, and {len(names)} are named")
+    return names
 
 
 def columns_of(frame: pd.DataFrame, what: str, names: Sequence[str]) -> Dict[str, Array]:

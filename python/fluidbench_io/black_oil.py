@@ -1,5 +1,6 @@
 """Black-oil tables, as keywords for a simulator or as comma-separated text."""
 
+import re
 from dataclasses import dataclass, field
 from typing import Any, Dict, List, Optional, Tuple
 
@@ -9,6 +10,7 @@ import pandas as pd
 from . import _core, _frames
 from ._errors import Diagnostic, FluidBenchError, unpack
 from ._files import Input, Readable, Writable, replacing
+from ._keywords import read_keywords
 
 _OIL = ("region", "record", "gas_oil_ratio", "pressure", "formation_volume_factor", "viscosity")
 _GAS = ("region", "record", "pressure", "oil_gas_ratio", "formation_volume_factor", "viscosity")
@@ -34,6 +36,9 @@ _CORE_GAS = ("pressure", "oil_gas_ratio", "formation_volume_factor", "viscosity"
 TABLES = ("live-wet", "live-dry", "dead-wet", "dead-dry")
 _KIND_OF_OIL = {"live": "live_oil", "dead": "dead_oil"}
 _KIND_OF_GAS = {"wet": "wet_gas", "dry": "dry_gas"}
+
+_CSV_LINE = re.compile(rb"^\s*(oden|wden|gden|rsconst|psat|pvto|pvtg|units)\s*,", re.I | re.M)
+_HEAD = 1 << 16
 
 
 @dataclass(eq=False)
@@ -162,27 +167,45 @@ def _from_core(raw: List[Dict[str, Any]], diagnostics: Tuple[Diagnostic, ...]) -
     return BlackOil(oil, gas, _frames.with_units(regions, _NUMBERS), diagnostics)
 
 
-def read_black_oil(path: Readable) -> BlackOil:
-    """Reads black-oil tables from comma-separated text.
+def _read_csv(source: Any, name: str, _: str) -> _core.Answer:
+    return _core.read_black_oil_csv(source, name)
 
-    Raises `FluidBenchError` for a file that can't be read or has no table.
+
+def read_black_oil(path: Readable, form: str = "auto", units: str = "auto") -> BlackOil:
+    """Reads black-oil tables.
+
+    `form` is "csv", "keyword", or found from the text with "auto". `units` are those of a keyword
+    file, "metric" or "field", and with "auto" what its FILEUNIT record says; comma-separated text
+    is metric always.
+
+    Raises `FluidBenchError` for a file that can't be read or holds no table.
 
         >>> read_black_oil("examples/data/reservoir-black-oil.csv").gas["record"].max()
         4
     """
+    _frames.choice(form, "form", ("auto", "csv", "keyword"))
+    _frames.choice(units, "units", ("auto",) + _frames.METRIC_OR_FIELD)
     input = Input(path)
-    raw, findings = unpack(_core.read_black_oil_csv(input.source, input.name))
-    findings.require_success(f"{input.title} can't be read as black-oil tables.")
-    findings.warn()
+    if form == "auto":
+        form = "csv" if _CSV_LINE.search(input.peek(_HEAD)) else "keyword"
+    read = _core.read_black_oil_keywords if form == "keyword" else _read_csv
+    raw, findings = read_keywords(read, input, units, "black-oil tables")
     return _from_core(raw, findings.diagnostics)
 
 
 def _columns(
-    frame: pd.DataFrame, what: str, columns: Tuple[str, ...], core: Tuple[str, ...]
+    frame: pd.DataFrame,
+    what: str,
+    columns: Tuple[str, ...],
+    core: Tuple[str, ...],
+    has_records: bool = True,
 ) -> Tuple[Any, ...]:
+    """The columns of the core. Without records, each row is one of its own."""
     _frames.require_columns(_frames.require_frame(frame, what), what, columns[1:], columns)
     values = _frames.columns_of(frame, what, ("record",) + core)
     record = values.pop("record").astype(np.int64)
+    if not has_records:  # a row that isn't its record's first wouldn't show its pressure
+        record = np.arange(len(record))
     return (record,) + tuple(values[name] for name in core)
 
 
@@ -217,7 +240,7 @@ def write_black_oil(
     oil, gas = _frames.choice(tables, "tables", TABLES).split("-")
     raw: Dict[str, Any] = {name: _frames.number(region[name], name) for name in _NUMBERS}
     raw[_KIND_OF_OIL[oil]] = _columns(table.oil, "oil", _OIL, _CORE_OIL)
-    raw[_KIND_OF_GAS[gas]] = _columns(table.gas, "gas", _GAS, _CORE_GAS)
+    raw[_KIND_OF_GAS[gas]] = _columns(table.gas, "gas", _GAS, _CORE_GAS, gas == "wet")
     with replacing(path) as write:
         _, findings = unpack(
             _core.write_black_oil(write, raw, form == "csv", units, oil, gas, bool(high_precision))

@@ -8,7 +8,9 @@ import pandas as pd
 
 from . import _core, _frames
 from ._errors import FluidBenchError, unpack
-from ._files import Writable, replacing
+from ._files import Readable, Writable, replacing
+from ._keywords import read_keywords
+from ._results import Results
 
 # The one column of a table, and its unit.
 _VALUE: Dict[str, Tuple[str, str]] = {
@@ -41,6 +43,31 @@ class DepthTable:
 
     keyword: str
     values: pd.DataFrame
+
+
+def read_depth_tables(
+    path: Readable, units: str = "auto", components: Optional[Sequence[str]] = None
+) -> "Results[DepthTable]":
+    """Reads the depth tables of a keyword file, in its order.
+
+    `units` are those of the file, "metric" or "field", and with "auto" what its FILEUNIT record
+    says. A composition has no names in the file: `components` gives them, and without them the
+    columns are "1", "2" and so on. Raises `FluidBenchError` for a file that can't be read.
+
+        >>> for table in read_depth_tables("psatvd.inc"):
+        ...     print(table.keyword, table.values)
+    """
+    raw, findings = read_keywords(_core.read_depth_tables, path, units, "depth tables")
+    tables = []
+    for keyword, depths, values in raw:
+        if keyword == _COMPOSITION:
+            columns, unit = _frames.component_names(components, values.shape[1]), "1"
+        else:
+            column, unit = _VALUE[keyword]
+            columns, values = [column], values.reshape(-1, 1)
+        frame = _frames.by(depths, "depth", "m", values, columns, unit)
+        tables.append(DepthTable(keyword, frame))
+    return Results(tables, findings.diagnostics)
 
 
 def _depths(table: DepthTable) -> _frames.Array:

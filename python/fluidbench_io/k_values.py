@@ -8,7 +8,9 @@ import pandas as pd
 
 from . import _core, _frames
 from ._errors import Diagnostic, FluidBenchError, unpack
-from ._files import Writable, replacing
+from ._files import Readable, Writable, replacing
+from ._keywords import read_keywords
+from ._results import Results
 
 _NO_TEMPERATURE = -1.0
 
@@ -28,6 +30,29 @@ class KValues:
     values: pd.DataFrame
     temperature: Optional[float] = None
     diagnostics: Tuple[Diagnostic, ...] = field(default=(), repr=False)
+
+
+def read_k_values(path: Readable, units: str = "auto") -> "Results[KValues]":
+    """Reads the K-value tables of a keyword file, one for each region.
+
+    `units` are those of the file, "metric" or "field", and with "auto" what its FILEUNIT record
+    says. Raises `FluidBenchError` for a file that can't be read.
+
+        >>> (table,) = read_k_values("kvalues.inc")
+        >>> table.values.plot(loglog=True)
+    """
+    raw, findings = read_keywords(_core.read_k_values, path, units, "K-values")
+    return Results(
+        (
+            KValues(
+                _frames.by(records[:, 0], "pressure", "Pa", records[:, 1:], names),
+                None if temperature < 0.0 else temperature,
+                findings.diagnostics,
+            )
+            for names, records, temperature in raw
+        ),
+        findings.diagnostics,
+    )
 
 
 def write_k_values(

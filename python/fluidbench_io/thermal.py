@@ -7,7 +7,8 @@ import pandas as pd
 
 from . import _core, _frames
 from ._errors import Diagnostic, FluidBenchError, unpack
-from ._files import Writable, replacing
+from ._files import Readable, Writable, replacing
+from ._keywords import read_keywords
 
 _UNITS = dict(_core.THERMAL_COLUMNS)
 _FIT = tuple(name for name in _UNITS if name.startswith("crookston_"))
@@ -34,6 +35,24 @@ class Thermal:
     standard_temperature: float
     standard_pressure: float
     diagnostics: Tuple[Diagnostic, ...] = field(default=(), repr=False)
+
+
+def read_thermal(path: Readable, units: str = "auto") -> Thermal:
+    """Reads the thermal data of a keyword file.
+
+    `units` are those of the file, "metric" or "field", and with "auto" what its FILEUNIT record
+    says. A file has each heat capacity as a value and a slope, so heat_capacity_c and _d are zero.
+    Raises `FluidBenchError` for a file that can't be read.
+
+        >>> read_thermal("thermal.inc").components["reference_density"]
+    """
+    raw, findings = read_keywords(_core.read_thermal, path, units, "thermal data")
+    names, values, temperature, pressure = raw
+    frame = pd.DataFrame(values, index=pd.Index(names, name="component", dtype=object))
+    units_of_frame = {name: _UNITS[name] for name in frame.columns}
+    return Thermal(
+        _frames.with_units(frame, units_of_frame), temperature, pressure, findings.diagnostics
+    )
 
 
 def write_thermal(

@@ -1,18 +1,22 @@
 // Black-oil tables.
 #include "Families.h"
 #include "FluidBench/Model/BlackOilTable.h"
+#include "Keywords.h"
 #include "Streams.h"
 #include "Values.h"
 #include "io/BlackOilExportFileWriter.h"
+#include "io/BlackOilKeywordReader.h"
 
 #include <array>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace FluidBenchPython {
 
 namespace py = pybind11;
 using Orv::FluidBench::IO::BlackOilExportFileWriter;
+using Orv::FluidBench::IO::BlackOilKeywordReader;
 using Orv::FluidBench::Model::BlackOilDataRecords;
 using Orv::FluidBench::Model::BlackOilTable;
 using Writer = BlackOilExportFileWriter;
@@ -98,6 +102,7 @@ py::tuple ReadCsv(const py::object& source, const py::str& name) {
     Findings findings;
     Writer reader;
     reader.SetDiagnosticSink(findings.Sink());
+    reader.SetReadsSaturationPoint(true);
     const BlackOilTable table =
         Source(source, name)
             .Read([&](const std::string& path) { return reader.GetTableFromCSVFile(path); },
@@ -106,6 +111,17 @@ py::tuple ReadCsv(const py::object& source, const py::str& name) {
                   });
     py::list regions;
     regions.append(TableToPython(table));
+    return findings.With(regions);
+}
+
+py::tuple ReadKeywordFile(const py::object& source, const py::str& name, const std::string& units) {
+    Findings findings;
+    std::vector<BlackOilTable> tables;
+    ReadKeywords<BlackOilKeywordReader>(source, name, units, findings, tables);
+    py::list regions;
+    for (const BlackOilTable& table : tables) {
+        regions.append(TableToPython(table));
+    }
     return findings.With(regions);
 }
 
@@ -133,6 +149,8 @@ py::tuple Write(const py::function& write, const py::dict& region, bool csv,
 
 void AddBlackOil(py::module_& module) {
     module.def("read_black_oil_csv", ReadCsv, py::arg("source"), py::arg("name"));
+    module.def("read_black_oil_keywords", ReadKeywordFile, py::arg("source"), py::arg("name"),
+               py::arg("units"));
     module.def("write_black_oil", Write, py::arg("write"), py::arg("region"), py::arg("csv"),
                py::arg("units"), py::arg("oil"), py::arg("gas"), py::arg("high_precision"));
 }

@@ -29,13 +29,17 @@ py::tuple ReadDeck(const std::string& path, const std::string& units) {
                                     ? pvtEnumPVOUnitSystemType::Field
                                     : pvtEnumPVOUnitSystemType::Metric);
     }
+    Findings findings;
+    reader.SetDiagnosticSink(findings.Sink());
     CompositionalFluid fluid("");
     const ErrorReport report = WithoutGlobalLock([&] { return reader.Read(fluid, detectUnits); });
-    Findings findings;
     findings.Add(report);
     py::dict result = FluidToPython(fluid);
     result["units"] =
         reader.GetPVOUnitSystemToUse() == pvtEnumPVOUnitSystemType::Field ? "field" : "metric";
+    if (const auto temperature = reader.GetReservoirTemperature()) {
+        result["temperature"] = *temperature;
+    }
     return findings.With(result);
 }
 

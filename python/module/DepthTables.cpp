@@ -5,8 +5,10 @@
 #include "FluidBench/Experiments/MSTExperiment.h"
 #include "FluidBench/Experiments/Stage.h"
 #include "FluidBench/Model/CompositionalFluid.h"
+#include "Keywords.h"
 #include "Streams.h"
 #include "Values.h"
+#include "io/DepthTableReader.h"
 #include "io/PVOFileWriter.h"
 
 #include <pybind11/stl.h>
@@ -23,6 +25,8 @@ using Orv::FluidBench::Experiments::ExperimentResults;
 using Orv::FluidBench::Experiments::MSTExperiment;
 using Orv::FluidBench::Experiments::oilLikeFluidState;
 using Orv::FluidBench::Experiments::Stage;
+using Orv::FluidBench::IO::DepthTable;
+using Orv::FluidBench::IO::DepthTableReader;
 using Orv::FluidBench::IO::PVOFileWriter;
 using Orv::FluidBench::Model::CompositionalFluid;
 using Orv::FluidBench::Model::FluidComponent;
@@ -48,6 +52,20 @@ CompositionalFluid FluidOf(const std::vector<std::string>& names, const double* 
         fluid.SetComponent(FluidComponent(names[i]), fractions[i]);
     }
     return fluid;
+}
+
+// (keyword, depths, a row of values for each depth) for each table.
+py::tuple Read(const py::object& source, const py::str& name, const std::string& units) {
+    Findings findings;
+    std::vector<DepthTable> tables;
+    ReadKeywords<DepthTableReader>(source, name, units, findings, tables);
+    py::list result;
+    for (const DepthTable& table : tables) {
+        const std::size_t columns = table.Values.empty() ? 0 : table.Values.front().size();
+        result.append(py::make_tuple(table.Keyword, ToPython(table.Depths),
+                                     RowsToPython(table.Values, columns)));
+    }
+    return findings.With(result);
 }
 
 // A row of `fractions` a depth.
@@ -121,6 +139,7 @@ py::tuple WriteRatios(const py::function& write, const Numbers& depths, const Nu
 } // namespace
 
 void AddDepthTables(py::module_& module) {
+    module.def("read_depth_tables", Read, py::arg("source"), py::arg("name"), py::arg("units"));
     module.def("write_depth_compositions", WriteCompositions, py::arg("write"),
                py::arg("components"), py::arg("depths"), py::arg("fractions"), py::arg("units"));
     module.def("write_depth_saturation", WriteSaturation, py::arg("write"), py::arg("depths"),

@@ -6,6 +6,7 @@
 namespace FluidBenchPython {
 
 void AddBlackOil(pybind11::module_& module);
+void AddCompositions(pybind11::module_& module);
 void AddDecks(pybind11::module_& module);
 void AddDepthTables(pybind11::module_& module);
 void AddDfa(pybind11::module_& module);

@@ -22,11 +22,12 @@ namespace {
 py::tuple ReadMfl(const std::string& path) {
     MFLFileReader reader;
     reader.SetMFLFileName(path);
+    Findings findings;
+    reader.SetDiagnosticSink(findings.Sink());
     CompositionalFluid fluid("");
     std::vector<std::vector<double>> streams;
     const ErrorReport report =
         WithoutGlobalLock([&] { return reader.ReadStreams(fluid, streams); });
-    Findings findings;
     findings.Add(report);
     py::list rows;
     for (const std::vector<double>& stream : streams) {

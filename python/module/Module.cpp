@@ -39,6 +39,7 @@ PYBIND11_MODULE(_core, module) {
     module.def("start_logging", StartLogging, py::arg("handler"));
     module.def("stop_logging", StopLogging);
     AddBlackOil(module);
+    AddCompositions(module);
     AddDecks(module);
     AddDepthTables(module);
     AddDfa(module);

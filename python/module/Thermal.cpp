@@ -1,10 +1,14 @@
 // Thermal tables.
 #include "Families.h"
 #include "FluidBench/Model/ThermalExportTable.h"
+#include "Keywords.h"
 #include "Streams.h"
 #include "Values.h"
 #include "io/ThermalExportFileWriter.h"
+#include "io/ThermalKeywordReader.h"
 
+#include <cstddef>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -12,6 +16,7 @@ namespace FluidBenchPython {
 
 namespace py = pybind11;
 using Orv::FluidBench::IO::ThermalExportFileWriter;
+using Orv::FluidBench::IO::ThermalKeywordReader;
 using Orv::FluidBench::Model::ThermalExportTable;
 
 namespace {
@@ -99,6 +104,30 @@ Table TableFromPython(const py::sequence& names, const py::dict& values, double 
     return table;
 }
 
+// (names, an array for each column, standard temperature and pressure)
+py::tuple Read(const py::object& source, const py::str& name, const std::string& units) {
+    Findings findings;
+    Table table;
+    ReadKeywords<ThermalKeywordReader>(source, name, units, findings, table);
+    py::dict values;
+    for (const Column& column : columns) {
+        values[column.name] = ToPython(table.*column.values);
+    }
+    for (const GuardedColumn& column : guardedColumns) {
+        values[column.name] = ToPython((table.*column.get)());
+    }
+    if (table.HasCrookstonData()) {
+        const std::vector<double> fit[]{table.GetCrookstonA(), table.GetCrookstonB(),
+                                        table.GetCrookstonC(), table.GetCrookstonD(),
+                                        table.GetCrookstonE()};
+        for (std::size_t i = 0; i < std::size(fit); ++i) {
+            values[fitColumns[i][0]] = ToPython(fit[i]);
+        }
+    }
+    return findings.With(py::make_tuple(NamesToPython(table.ComponentNames), values,
+                                        table.StandardTemperature, table.StandardPressure));
+}
+
 py::tuple Write(const py::function& write, const py::sequence& names, const py::dict& values,
                 double temperature, double pressure, const std::string& units, bool highPrecision) {
     const Table table = TableFromPython(names, values, temperature, pressure);
@@ -114,6 +143,7 @@ py::tuple Write(const py::function& write, const py::sequence& names, const py::
 
 void AddThermal(py::module_& module) {
     module.attr("THERMAL_COLUMNS") = ColumnsToPython();
+    module.def("read_thermal", Read, py::arg("source"), py::arg("name"), py::arg("units"));
     module.def("write_thermal", Write, py::arg("write"), py::arg("names"), py::arg("values"),
                py::arg("standard_temperature"), py::arg("standard_pressure"), py::arg("units"),
                py::arg("high_precision"));

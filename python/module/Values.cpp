@@ -1,6 +1,7 @@
 #include "Values.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 namespace FluidBenchPython {
@@ -71,6 +72,19 @@ Numbers ToPython(const std::vector<double>& values) {
 
 std::vector<double> FromPython(const Numbers& values) {
     return {values.data(), values.data() + values.size()};
+}
+
+Numbers RowsToPython(const std::vector<std::vector<double>>& rows, std::size_t columns) {
+    Numbers block({static_cast<py::ssize_t>(rows.size()), static_cast<py::ssize_t>(columns)});
+    double* next = block.mutable_data();
+    for (const std::vector<double>& row : rows) {
+        if (row.size() != columns) {
+            throw std::invalid_argument("a row has " + std::to_string(row.size()) +
+                                        " numbers in place of " + std::to_string(columns));
+        }
+        next = std::ranges::copy(row, next).out;
+    }
+    return block;
 }
 
 Units::UNIT_TYPE UnitsFromPython(const std::string& units) {

@@ -8,6 +8,7 @@
 #include <pybind11/numpy.h>
 #include <pybind11/pybind11.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -32,6 +33,10 @@ pybind11::str SentenceToPython(const std::string& sentence);
 /// Copies of a block of numbers.
 Numbers ToPython(const std::vector<double>& values);
 std::vector<double> FromPython(const Numbers& values);
+
+/// Rows of equal length as a block of so many columns. Throws `std::invalid_argument` for a row of
+/// another length.
+Numbers RowsToPython(const std::vector<std::vector<double>>& rows, std::size_t columns);
 
 /// "metric" or "field"; throws `ValueError` for any other.
 Orv::FluidBench::Common::Units::UNIT_TYPE UnitsFromPython(const std::string& units);
