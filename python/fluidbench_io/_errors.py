@@ -8,6 +8,8 @@ _SEVERITIES = ("note", "warning", "error")
 
 RawMessage = Tuple[int, int, str]
 RawDiagnostic = Tuple[int, str, int, str, str]
+# What an operation of the core gives: its result, and what it said.
+Answer = Tuple[Any, Sequence[RawMessage], Sequence[RawDiagnostic]]
 
 
 @dataclass(frozen=True)
@@ -106,7 +108,7 @@ class Findings:
             warnings.warn(text, FluidBenchWarning, stacklevel=stacklevel)
 
 
-def unpack(answer: Tuple[Any, Sequence[RawMessage], Sequence[RawDiagnostic]]) -> Tuple[Any, Findings]:
+def unpack(answer: Answer) -> Tuple[Any, Findings]:
     """The result of an operation of the core, and what it said."""
     result, messages, diagnostics = answer
     return result, Findings(

@@ -17,8 +17,26 @@ Writable = Union[Path, IO[str], IO[bytes]]
 
 def _read_bytes(file: Any) -> Callable[[int], bytes]:
     def read(size: int) -> bytes:
-        block: Union[str, bytes] = file.read(size)
-        return block.encode("utf-8", "surrogateescape") if isinstance(block, str) else block
+        block = file.read(size)
+        if isinstance(block, str):
+            return block.encode("utf-8", "surrogateescape")
+        if not isinstance(block, (bytes, bytearray, memoryview)):
+            raise TypeError(
+                f"the file object's read() has to give bytes or str, not {type(block).__name__}"
+            )
+        return bytes(block)
+
+    return read
+
+
+def _read_to_the_end(file: IO[bytes]) -> Callable[[int], bytes]:
+    """The `read` of a file that closes itself at its end."""
+
+    def read(size: int) -> bytes:
+        block = b"" if file.closed else file.read(size)
+        if not block:
+            file.close()
+        return block
 
     return read
 
@@ -51,10 +69,13 @@ class Input:
         the read says why."""
         if isinstance(self.source, bytes):
             try:
-                with open(self.source, "rb") as file:
-                    return file.read(size)
+                file = open(self.source, "rb", buffering=0)
             except OSError:
                 return b""
+            if stat.S_ISREG(os.fstat(file.fileno()).st_mode):
+                with file:
+                    return file.read(size)
+            self.source = _read_to_the_end(file)  # a pipe gives its bytes once
         read = self.source
         head = b""
         while len(head) < size:

@@ -2,13 +2,17 @@
 
 from typing import Any, Callable, Tuple, Union
 
-from . import _core, _frames
-from ._errors import Findings, unpack
+from . import _frames
+from ._errors import Answer, Findings, unpack
 from ._files import Input, Readable
 
 
 def read_keywords(
-    read: Callable[..., _core.Answer], path: Union[Readable, Input], units: str, what: str, stacklevel: int = 4
+    read: Callable[..., Answer],
+    path: Union[Readable, Input],
+    units: str,
+    what: str,
+    stacklevel: int = 4,
 ) -> Tuple[Any, Findings]:
     """What `read` of the core gives for the file; warns, or raises where it can't be read."""
     _frames.choice(units, "units", ("auto",) + _frames.METRIC_OR_FIELD)

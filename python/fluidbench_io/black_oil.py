@@ -8,7 +8,7 @@ import numpy as np
 import pandas as pd
 
 from . import _core, _frames
-from ._errors import Diagnostic, FluidBenchError, unpack
+from ._errors import Answer, Diagnostic, FluidBenchError, unpack
 from ._files import Input, Readable, Writable, replacing
 from ._keywords import read_keywords
 
@@ -167,7 +167,7 @@ def _from_core(raw: List[Dict[str, Any]], diagnostics: Tuple[Diagnostic, ...]) -
     return BlackOil(oil, gas, _frames.with_units(regions, _NUMBERS), diagnostics)
 
 
-def _read_csv(source: Any, name: str, _: str) -> _core.Answer:
+def _read_csv(source: Any, name: str, _: str) -> Answer:
     return _core.read_black_oil_csv(source, name)
 
 

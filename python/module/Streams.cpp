@@ -24,12 +24,7 @@ void PythonInput::RethrowFailure() const {
 PythonInput::int_type PythonInput::underflow() {
     const py::gil_scoped_acquire acquire;
     try {
-        py::object block = read_(blockSize);
-        if (!py::isinstance<py::bytes>(block)) {
-            throw py::type_error("the file object's read() has to give bytes or str, not " +
-                                 std::string(py::str(py::type::of(block).attr("__name__"))));
-        }
-        block_ = py::reinterpret_borrow<py::bytes>(block);
+        block_ = py::bytes(read_(blockSize));
     } catch (...) {
         failure_ = std::current_exception();
     }

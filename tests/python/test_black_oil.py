@@ -49,7 +49,7 @@ def test_sample_comes_in_model_units():
 
 
 @pytest.mark.parametrize("units", ["metric", "field"])
-@pytest.mark.parametrize("form", ["csv"])
+@pytest.mark.parametrize("form", ["csv", "keyword"])
 def test_tables_come_back(pvt, form, units):
     back = fb.read_black_oil(io.StringIO(text_of(pvt, form=form, units=units)))
     pd.testing.assert_frame_equal(back.oil, pvt.oil, check_dtype=False, rtol=1e-6)
