@@ -4,6 +4,7 @@
 // where something failed, and 2 on wrong usage; `diff` has meanings of its own.
 #include "Commands.h"
 #include "Descriptor.h"
+#include "Documents.h"
 #include "Help.h"
 #include "Shown.h"
 
@@ -12,6 +13,8 @@
 #include <iostream>
 #include <new>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace FluidBenchTool {
@@ -64,9 +67,26 @@ Found FindCommand(const Words& words) {
     return {command, nullptr, 2};
 }
 
+// What is installed beside the program, by the option of help that asks for it.
+constexpr std::pair<std::string_view, void (*)(std::ostream&)> documents[] = {
+    {"--man", PrintManual}, {"--bash", PrintBashCompletion}, {"--zsh", PrintZshCompletion}};
+
+bool PrintDocument(std::ostream& out, const Words& words) {
+    for (const auto& [option, print] : documents) {
+        if (words.size() == 1 && words.front() == option) {
+            print(out);
+            return true;
+        }
+    }
+    return false;
+}
+
 void Help(std::ostream& out, const Words& words) {
     if (words.empty()) {
         PrintHelp(out);
+        return;
+    }
+    if (PrintDocument(out, words)) {
         return;
     }
     const Found found = FindCommand(words);

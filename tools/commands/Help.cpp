@@ -57,6 +57,7 @@ void PrintHelp(std::ostream& out) {
     out << "all formats\n";
     PrintCommands(out, GeneralCommands());
     out << "\n  help [FORMAT [VERB]]    this, or more on a format or command\n"
+           "  help --man|--bash|--zsh the manual page, or what a shell completes lines with\n"
            "  --version               the program's version\n\n"
            "A file named - is the standard input or output. The exit status is 0, or 1 where\n"
            "something failed or a file has errors, or 2 on wrong usage; that of diff is 0 for\n"
