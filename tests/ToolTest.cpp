@@ -1,58 +1,15 @@
 // The command-line program as a user runs it: exit status, output and messages.
-#include "TestSupport.h"
+#include "ToolRun.h"
 
 #include <sys/resource.h>
-#include <sys/wait.h>
 
 #include <algorithm>
-#include <cstdlib>
 
 using namespace FluidBenchTest;
 
 namespace {
 
-struct Outcome {
-    int status = -1;
-    std::string output;
-    std::string messages;
-};
-
-std::string Replaced(std::string text, const std::string& what, const std::string& by) {
-    for (std::size_t at = text.find(what); at != std::string::npos;
-         at = text.find(what, at + by.size())) {
-        text.replace(at, what.size(), by);
-    }
-    return text;
-}
-
-bool Contains(const std::string& text, const std::string& part) {
-    return text.find(part) != std::string::npos;
-}
-
-class ToolTest : public testing::Test {
-protected:
-    // Runs a line of the shell in the test's folder. "TOOL" in it stands for the program and "@"
-    // for the folder of the sample files, also in what comes out.
-    Outcome Shell(std::string line) {
-        const std::string samples = FLUIDBENCH_EXAMPLE_DATA "/";
-        line = Replaced(Replaced(line, "TOOL", "'" FLUIDBENCH_TOOL "'"), "@", samples);
-        const std::string command = "cd '" + folder.Path().string() + "' && { " + line +
-                                    "; } > .output 2> .messages < /dev/null";
-        const int status = std::system(command.c_str());
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1,
-                Replaced(ReadFile(folder / ".output"), samples, "@"),
-                Replaced(ReadFile(folder / ".messages"), samples, "@")};
-    }
-
-    Outcome Tool(const std::string& arguments) { return Shell("TOOL " + arguments); }
-
-    // What isn't hidden, and so not this class's own.
-    std::string FilesOf(const std::string& subfolder = ".") {
-        return Shell("ls -A " + subfolder + " | grep -vx '\\.output\\|\\.messages'").output;
-    }
-
-    TemporaryFolder folder;
-};
+class ToolTest : public ToolRun {};
 
 constexpr const char* blackOil =
     "ODEN,800\nGDEN,1\nRSCONST,50\nPSAT,1e7\n\n"

@@ -1,225 +1,162 @@
 #include "Chart.h"
 
-#include "AxisScale.h"
-#include "Table.h"
+#include "PanelDrawing.h"
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace FluidBenchTool {
 
 namespace {
 
-using Anchor = TextStyle::Anchor;
+constexpr double top = 76.0;       // of the panels
+constexpr double rightEdge = 24.0; // beside them, where no legend is
+constexpr double besideWidth = 248.0;
+constexpr double panelTitleHeight = 22.0;
 
-constexpr double width = 960.0;
-constexpr double height = 600.0;
+constexpr double sampleWidth = 40.0;
+constexpr double sampleDistance = 10.0;
+constexpr double lineHeight = 22.0;
+constexpr double secondLineHeight = 16.0;
+constexpr double halfOfCapitals = 4.5;
+constexpr double textSize = 13.0;
+constexpr double secondSize = 11.5;
 
-// The area between the axes. Its left side moves to the right for long numbers along the y axis.
-constexpr double usualLeft = 88.0;
-constexpr double right = 712.0;
-constexpr double top = 76.0;
-constexpr double bottom = 526.0;
-
-constexpr int xIntervals = 7;
-constexpr int yIntervals = 6;
-
-constexpr double yLabelDistance = 10.0;
-constexpr double yTitleBase = 26.0;
-constexpr double tickLength = 6.0;
-constexpr double minorTickLength = 3.0;
-constexpr double markerRadius = 5.5;
-constexpr double dotRadius = 3.5; // of a curve that is a point alone to the eye
-
-const Stroke frameStroke{"#444444", 1.2};
-const Stroke gridStroke{"#e4e4e4", 1.0};
-const Stroke markerRim{"#ffffff", 1.5};
-
-bool CanBeDrawn(const Place& point) {
-    constexpr double limit = 1e100;
-    return std::abs(point.x) < limit && std::abs(point.y) < limit; // false for what isn't a number
-}
-
-struct Range {
-    double least = std::numeric_limits<double>::infinity();
-    double most = -std::numeric_limits<double>::infinity();
-
-    void Include(double value) {
-        least = std::min(least, value);
-        most = std::max(most, value);
-    }
-    bool IsEmpty() const { return least > most; }
-};
-
-struct Axes {
-    AxisScale x;
-    AxisScale y;
-    double left = usualLeft;
-
-    Place On(const Place& point) const {
-        return {left + x.Part(point.x) * (right - left), bottom - y.Part(point.y) * (bottom - top)};
-    }
-};
-
-// The axis is a little longer than its values, so that no curve runs along the frame. It is pulled
-// down to zero where its values nearly reach there anyhow.
-AxisScale ScaleOf(const Range& range, int intervals, bool mayBeginAtZero) {
-    constexpr double room = 0.02;
-    constexpr double farAboveZero = 0.7;
-    const double margin = room * (range.most - range.least);
-    const bool beginsAtZero =
-        mayBeginAtZero && range.least >= 0.0 && range.least < farAboveZero * range.most;
-    return RoundScale(beginsAtZero ? 0.0 : range.least - margin, range.most + margin, intervals);
-}
-
-// Where the numbers along the axis stand clear of its title.
-double LeftBeside(const AxisScale& yAxis) {
-    constexpr double gap = 10.0 + yLabelDistance; // to the title and to the axis
-    constexpr double digitWidth = 8.3;            // of the widest of the fonts
-    std::size_t longest = 0;
-    for (const double tick : yAxis.ticks) {
-        longest = std::max(longest, ShownWidth(yAxis.Label(tick)));
-    }
-    const double labels = digitWidth * static_cast<double>(longest);
-    return std::max(usualLeft, yTitleBase + gap + labels);
-}
-
-void DrawTitle(SvgPicture& picture, const Chart& chart, double left) {
-    picture.AddText({left, 36.0}, chart.title, {.size = 19.0, .isBold = true});
-    picture.AddText({left, 58.0}, chart.subtitle, {.size = 13.0, .colour = "#555555"});
-}
-
-void DrawAxes(SvgPicture& picture, const Chart& chart, const Axes& axes) {
-    constexpr double xLabelDistance = 21.0;
-    constexpr double halfOfCapitals = 4.5;
-    const double left = axes.left;
-    const auto addXTick = [&](double x, double length) {
-        picture.AddLine({x, bottom}, {x, bottom + length}, frameStroke);
-    };
-    const auto addYTick = [&](double y, double length) {
-        picture.AddLine({left - length, y}, {left, y}, frameStroke);
-    };
-    for (const double tick : axes.x.ticks) {
-        const double x = axes.On({tick, 0.0}).x;
-        picture.AddLine({x, top}, {x, bottom}, gridStroke);
-        addXTick(x, tickLength);
-        picture.AddText({x, bottom + xLabelDistance}, axes.x.Label(tick),
-                        {.anchor = Anchor::Middle});
-    }
-    for (const double tick : axes.y.ticks) {
-        const double y = axes.On({0.0, tick}).y;
-        picture.AddLine({left, y}, {right, y}, gridStroke);
-        addYTick(y, tickLength);
-        picture.AddText({left - yLabelDistance, y + halfOfCapitals}, axes.y.Label(tick),
-                        {.anchor = Anchor::End});
-    }
-    for (const double tick : axes.x.minorTicks) {
-        addXTick(axes.On({tick, 0.0}).x, minorTickLength);
-    }
-    for (const double tick : axes.y.minorTicks) {
-        addYTick(axes.On({0.0, tick}).y, minorTickLength);
-    }
-    picture.AddRectangle({left, top}, right - left, bottom - top, frameStroke);
-    picture.AddText({(left + right) / 2.0, bottom + 50.0}, chart.xLabel,
-                    {.size = 15.0, .anchor = Anchor::Middle});
-    picture.AddText({yTitleBase, (top + bottom) / 2.0}, chart.yLabel,
-                    {.size = 15.0, .anchor = Anchor::Middle, .isUpward = true});
-}
-
-bool CanBeToldApart(const Place& first, const Place& second) {
-    constexpr double smallestDistance = 0.4; // pixels
-    return std::hypot(first.x - second.x, first.y - second.y) >= smallestDistance;
-}
-
-// The points that make a difference to the eye: of a million, a few thousand at most, and one alone
-// of a curve that never leaves its first.
-std::vector<Place> VisiblePlaces(std::vector<Place>::const_iterator begin,
-                                 std::vector<Place>::const_iterator end, const Axes& axes) {
-    std::vector<Place> places;
-    for (auto point = begin; point != end; ++point) {
-        const Place place = axes.On(*point);
-        const bool isEndOfCurve = point + 1 == end && places.size() > 1;
-        if (places.empty() || isEndOfCurve || CanBeToldApart(places.back(), place)) {
-            places.push_back(place);
-        }
-    }
-    return places;
-}
-
-void DrawCurve(SvgPicture& picture, const Curve& curve, const Axes& axes) {
-    for (auto begin = std::ranges::find_if(curve.points, CanBeDrawn);
-         begin != curve.points.end();) {
-        const auto end = std::find_if_not(begin, curve.points.end(), CanBeDrawn);
-        const std::vector<Place> places = VisiblePlaces(begin, end, axes);
-        const bool isDot = places.size() == 1;
-        if (curve.isMarker || isDot) {
-            const double radius = curve.isMarker ? markerRadius : dotRadius;
-            for (const Place& place : places) {
-                picture.AddDisc(place, radius, curve.stroke.colour, markerRim);
-            }
-        } else {
-            picture.AddPolyline(places, curve.stroke);
-        }
-        begin = std::find_if(end, curve.points.end(), CanBeDrawn);
+void DrawSample(SvgPicture& picture, const LegendEntry& entry, Place begin) {
+    if (entry.isMarker) {
+        picture.AddDisc({begin.x + sampleWidth / 2.0, begin.y}, markerRadius, entry.stroke.colour,
+                        markerRim);
+    } else {
+        picture.AddLine(begin, {begin.x + sampleWidth, begin.y}, entry.stroke);
     }
 }
 
-void DrawLegend(SvgPicture& picture, const std::vector<LegendEntry>& legend) {
-    constexpr double begin = right + 22.0;
-    constexpr double sampleWidth = 40.0;
-    constexpr double textBegin = begin + sampleWidth + 10.0;
-    constexpr double lineHeight = 22.0;
-    constexpr double secondLineHeight = 16.0;
-    constexpr double halfOfCapitals = 4.5;
+void DrawLegendBeside(SvgPicture& picture, const Chart& chart) {
+    const double begin = chart.width - besideWidth + 22.0;
+    const double textBegin = begin + sampleWidth + sampleDistance;
+    const double room = chart.width - textBegin - 4.0;
     double y = top + 8.0;
-    for (const LegendEntry& entry : legend) {
-        if (entry.isMarker) {
-            picture.AddDisc({begin + sampleWidth / 2.0, y}, markerRadius, entry.stroke.colour,
-                            markerRim);
-        } else {
-            picture.AddLine({begin, y}, {begin + sampleWidth, y}, entry.stroke);
-        }
-        picture.AddText({textBegin, y + halfOfCapitals}, entry.text, {});
+    for (const LegendEntry& entry : chart.legend) {
+        DrawSample(picture, entry, {begin, y});
+        picture.AddText({textBegin, y + halfOfCapitals}, Shortened(entry.text, room, textSize), {});
         if (!entry.secondLine.empty()) {
             y += secondLineHeight;
-            picture.AddText({textBegin, y + halfOfCapitals}, entry.secondLine,
-                            {.size = 11.5, .colour = "#555555"});
+            picture.AddText({textBegin, y + halfOfCapitals},
+                            Shortened(entry.secondLine, room, secondSize),
+                            {.size = secondSize, .colour = "#555555"});
         }
         y += lineHeight;
     }
 }
 
+// An entry of a legend below the panels, which runs on like text.
+struct Placed {
+    const LegendEntry* entry;
+    std::string text;
+    Place place; // from the upper left corner of the legend
+};
+
+std::vector<Placed> LineUp(const Chart& chart) {
+    constexpr double gap = 18.0;
+    const double room = chart.width - 2.0 * rightEdge;
+    std::vector<Placed> placed;
+    Place at;
+    for (const LegendEntry& entry : chart.legend) {
+        const std::string both =
+            entry.text + (entry.secondLine.empty() ? "" : " (" + entry.secondLine + ')');
+        const std::string text = Shortened(both, room - sampleWidth - sampleDistance, textSize);
+        const double width = sampleWidth + sampleDistance + WidthOf(text, textSize);
+        if (at.x > 0.0 && at.x + width > room) {
+            at = {0.0, at.y + lineHeight};
+        }
+        placed.push_back({&entry, text, at});
+        at.x += width + gap;
+    }
+    return placed;
+}
+
+void DrawLegendBelow(SvgPicture& picture, const std::vector<Placed>& legend, double legendTop) {
+    for (const Placed& placed : legend) {
+        const Place begin{rightEdge + placed.place.x, legendTop + placed.place.y};
+        DrawSample(picture, *placed.entry, begin);
+        picture.AddText({begin.x + sampleWidth + sampleDistance, begin.y + halfOfCapitals},
+                        placed.text, {});
+    }
+}
+
+void DrawTitle(SvgPicture& picture, const Chart& chart, double left) {
+    constexpr double titleSize = 19.0;
+    const double room = chart.width - left - rightEdge / 2.0;
+    picture.AddText({left, 36.0}, Shortened(chart.title, room, titleSize),
+                    {.size = titleSize, .isBold = true});
+    picture.AddText({left, 58.0}, Shortened(chart.subtitle, room, textSize),
+                    {.size = textSize, .colour = "#555555"});
+}
+
+std::size_t RowsOf(const Chart& chart) {
+    const auto columns = static_cast<std::size_t>(std::max(chart.columns, 1));
+    return (chart.panels.size() + columns - 1) / columns;
+}
+
+// Where the panels are, each of the same size. Gives the left end of the first one's axis.
+double DrawPanels(SvgPicture& picture, const Chart& chart, const Box& area) {
+    const auto columns = static_cast<std::size_t>(std::max(chart.columns, 1));
+    const double width = area.Width() / static_cast<double>(columns);
+    const double height = area.Height() / static_cast<double>(RowsOf(chart));
+    double left = area.left;
+    for (std::size_t i = 0; i < chart.panels.size(); ++i) {
+        const auto column = static_cast<double>(i % columns);
+        const auto row = static_cast<double>(i / columns);
+        const double titleHeight = chart.panels[i].title.empty() ? 0.0 : panelTitleHeight;
+        const double begin = area.left + column * width;
+        const double above = area.top + row * height;
+        const double axis = DrawPanel(picture, chart.panels[i],
+                                      {begin, above + titleHeight,
+                                       begin + width - (columns > 1 ? 14.0 : 0.0), above + height});
+        left = i == 0 ? axis : left;
+    }
+    return left;
+}
+
+// How much smaller than it is drawn a picture is shown that has too little room for its texts.
+double ZoomOf(const Chart& chart) {
+    constexpr double leastWidth = 560.0;
+    constexpr double leastPanelWidth = 290.0;
+    constexpr double leastHeight = 400.0;
+    constexpr double leastPanelHeight = 230.0;
+    const double width = std::max(leastWidth, leastPanelWidth * chart.columns);
+    const double height =
+        std::max(leastHeight, top + leastPanelHeight * static_cast<double>(RowsOf(chart)));
+    return std::min({1.0, chart.width / width, chart.height / height});
+}
+
+// The picture, in the pixels that it is drawn in.
+std::string DrawPage(const Chart& chart, double zoom) {
+    constexpr double narrow = 640.0;
+    SvgPicture picture(chart.width, chart.height, chart.title + ", " + chart.subtitle, zoom);
+    const bool isBelow = chart.panels.size() > 1 || chart.width < narrow;
+    const std::vector<Placed> below = isBelow ? LineUp(chart) : std::vector<Placed>();
+    const double belowHeight = below.empty() ? 0.0 : below.back().place.y + lineHeight;
+    const double beside = isBelow ? rightEdge : besideWidth;
+    const double bottom = chart.height - belowHeight;
+    const double left = DrawPanels(picture, chart, {0.0, top, chart.width - beside, bottom});
+    DrawTitle(picture, chart, left);
+    if (isBelow) {
+        DrawLegendBelow(picture, below, bottom + halfOfCapitals);
+    } else {
+        DrawLegendBeside(picture, chart);
+    }
+    return picture.Finish();
+}
+
 } // namespace
 
 std::string DrawChart(const Chart& chart) {
-    SvgPicture picture(width, height, chart.title + ", " + chart.subtitle);
-    Range x;
-    Range y;
-    for (const Curve& curve : chart.curves) {
-        for (const Place& point : curve.points) {
-            if (CanBeDrawn(point)) {
-                x.Include(point.x);
-                y.Include(point.y);
-            }
-        }
-    }
-    if (x.IsEmpty()) {
-        DrawTitle(picture, chart, usualLeft);
-        picture.AddRectangle({usualLeft, top}, right - usualLeft, bottom - top, frameStroke);
-        picture.AddText({(usualLeft + right) / 2.0, (top + bottom) / 2.0}, "No points",
-                        {.size = 15.0, .anchor = Anchor::Middle});
-        return picture.Finish();
-    }
-    Axes axes{ScaleOf(x, xIntervals, false), ScaleOf(y, yIntervals, true)};
-    axes.left = LeftBeside(axes.y);
-    DrawTitle(picture, chart, axes.left);
-    DrawAxes(picture, chart, axes);
-    for (const Curve& curve : chart.curves) {
-        DrawCurve(picture, curve, axes);
-    }
-    DrawLegend(picture, chart.legend);
-    return picture.Finish();
+    const double zoom = ZoomOf(chart);
+    Chart page = chart;
+    page.width /= zoom;
+    page.height /= zoom;
+    return DrawPage(page, zoom);
 }
 
 } // namespace FluidBenchTool

@@ -1,10 +1,12 @@
 #include "EnvelopeChart.h"
 
+#include "Palette.h"
 #include "Table.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <utility>
 
 namespace FluidBenchTool {
 
@@ -59,7 +61,7 @@ std::vector<const EnvelopeLine*> LinesOfPhase(const std::vector<EnvelopeLine>& l
 }
 
 Curve ToCurve(const EnvelopeLine& line, const Stroke& stroke) {
-    Curve curve{stroke, line.phase == Phase::CriticalPoint, {}};
+    Curve curve{stroke, line.phase == Phase::CriticalPoint, {}, {}};
     for (const Point& point : line.points) {
         curve.points.push_back({point.x, point.y});
     }
@@ -77,49 +79,79 @@ std::string PlaceText(const EnvelopeLine& line, const EnvelopeUnits& units) {
            WithMinusSign(NumberText(point.y, digits)) + ' ' + units.pressure;
 }
 
-void AddFractionsTogether(Chart& chart, const std::vector<const EnvelopeLine*>& lines) {
-    const auto [least, most] =
-        std::ranges::minmax(lines, {}, [](const auto* line) { return line->phaseFraction; });
-    chart.legend.push_back(
-        {LookOf(Phase::VapourFraction).stroke, false,
-         std::to_string(lines.size()) + " vapour fractions",
-         NumberText(least->phaseFraction) + " to " + NumberText(most->phaseFraction)});
+// As many fractions have their number on the curve as can be read.
+std::string FractionLabel(const EnvelopeLine& line, std::size_t index, std::size_t count) {
+    constexpr std::size_t mostLabels = 12;
+    const std::size_t step = (count + mostLabels - 1) / mostLabels;
+    return line.phase == Phase::VapourFraction && index % step == 0 ? NumberText(line.phaseFraction)
+                                                                    : std::string();
 }
 
-} // namespace
+LegendEntry FractionsEntry(const std::vector<const EnvelopeLine*>& lines) {
+    const auto [least, most] =
+        std::ranges::minmax(lines, {}, [](const auto* line) { return line->phaseFraction; });
+    const std::string begin = NumberText(least->phaseFraction);
+    const std::string end = NumberText(most->phaseFraction);
+    return {LookOf(Phase::VapourFraction).stroke, false, "Vapour fraction",
+            begin == end ? begin : begin + " to " + end};
+}
 
-Chart EnvelopeChart(const std::vector<EnvelopeLine>& lines, const EnvelopeUnits& units,
-                    const std::string& subtitle) {
-    constexpr std::size_t mostFractionsInLegend = 10;
-    Chart chart{"Phase envelope",
-                subtitle,
-                std::string("Temperature (") + units.temperature + ')',
-                std::string("Pressure (") + units.pressure + ')',
-                {},
-                {}};
-    for (const auto& [phase, stroke] : looks) {
-        const auto ofPhase = LinesOfPhase(lines, phase);
-        for (std::size_t i = 0; i < ofPhase.size(); ++i) {
-            chart.curves.push_back(ToCurve(*ofPhase[i], ShadedStroke(stroke, i, ofPhase.size())));
-        }
-    }
-    const auto fractions = LinesOfPhase(lines, Phase::VapourFraction);
+// The legend of a single plot: each of its kinds of lines, in the order of the file.
+void AddPhases(Chart& chart, const std::vector<EnvelopeLine>& lines, const EnvelopeUnits& units) {
     for (const EnvelopeLine& line : lines) {
         if (line.phase != Phase::VapourFraction && !line.points.empty()) {
             chart.legend.push_back({LookOf(line.phase).stroke, line.phase == Phase::CriticalPoint,
                                     line.name, PlaceText(line, units)});
         }
     }
-    if (fractions.size() > mostFractionsInLegend) {
-        AddFractionsTogether(chart, fractions);
-        return chart;
+    if (const auto fractions = LinesOfPhase(lines, Phase::VapourFraction); !fractions.empty()) {
+        chart.legend.push_back(FractionsEntry(fractions));
     }
-    for (std::size_t i = 0; i < fractions.size(); ++i) {
-        const EnvelopeLine& line = *fractions[i];
-        chart.legend.push_back({ShadedStroke(LookOf(line.phase).stroke, i, fractions.size()),
-                                false,
-                                line.name + ' ' + NumberText(line.phaseFraction),
-                                {}});
+}
+
+// The legend of several plots: the colour of each, and the dashes of the kinds.
+void AddPlots(Chart& chart, const std::vector<EnvelopePlot>& plots) {
+    for (std::size_t i = 0; i < plots.size(); ++i) {
+        chart.legend.push_back({{ColourOf(i), 2.4}, false, plots[i].name});
+    }
+    for (const auto& [phase, stroke] : looks) {
+        for (const EnvelopePlot& plot : plots) {
+            if (const auto found = LinesOfPhase(plot.lines, phase); !found.empty()) {
+                Stroke grey = stroke;
+                grey.colour = "#555555";
+                chart.legend.push_back({grey, phase == Phase::CriticalPoint, found.front()->name});
+                break;
+            }
+        }
+    }
+}
+
+} // namespace
+
+Chart EnvelopeChart(const std::vector<EnvelopePlot>& plots, const EnvelopeUnits& units,
+                    const std::string& subtitle) {
+    Panel panel{"",
+                {.label = std::string("Temperature (") + units.temperature + ')'},
+                {.label = std::string("Pressure (") + units.pressure + ')'},
+                {}};
+    for (const auto& [phase, stroke] : looks) {
+        for (std::size_t plot = 0; plot < plots.size(); ++plot) {
+            const auto ofPhase = LinesOfPhase(plots[plot].lines, phase);
+            for (std::size_t i = 0; i < ofPhase.size(); ++i) {
+                Stroke look = ShadedStroke(stroke, i, ofPhase.size());
+                if (plots.size() > 1) {
+                    look.colour = ColourOf(plot);
+                }
+                panel.curves.push_back(ToCurve(*ofPhase[i], look));
+                panel.curves.back().label = FractionLabel(*ofPhase[i], i, ofPhase.size());
+            }
+        }
+    }
+    Chart chart{"Phase envelope", subtitle, {std::move(panel)}};
+    if (plots.size() == 1) {
+        AddPhases(chart, plots.front().lines, units);
+    } else {
+        AddPlots(chart, plots);
     }
     return chart;
 }

@@ -5,13 +5,20 @@
 #include "EnvelopeLines.h"
 
 #include <string>
+#include <vector>
 
 namespace FluidBenchTool {
 
-/// A chart of these lines, which are in these units, with the kinds of lines told apart by colour,
-/// dashes and the legend. A legend that would be too long tells of the vapour fractions in one
-/// entry.
-Chart EnvelopeChart(const std::vector<EnvelopeLine>& lines, const EnvelopeUnits& units,
+/// The lines of one plot, and what a legend calls it.
+struct EnvelopePlot {
+    std::string name;
+    std::vector<EnvelopeLine> lines;
+};
+
+/// A chart of these lines, which are in these units. The kinds of lines of a single plot are told
+/// apart by colour, dashes and the legend; several plots by colour, and their lines by dashes. A
+/// line of constant vapour fraction has its fraction on it.
+Chart EnvelopeChart(const std::vector<EnvelopePlot>& plots, const EnvelopeUnits& units,
                     const std::string& subtitle);
 
 } // namespace FluidBenchTool

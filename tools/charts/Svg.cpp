@@ -1,5 +1,6 @@
 #include "Svg.h"
 
+#include "Shown.h"
 #include "Table.h"
 
 #include <cmath>
@@ -63,8 +64,10 @@ std::size_t CharacterLength(std::string_view text) {
     return isOverlong || isSurrogate || isForbidden ? 0 : length;
 }
 
-std::string Escaped(std::string_view text) {
+std::string Escaped(std::string_view outside) {
     std::string escaped;
+    const std::string shown = Shown(outside);
+    std::string_view text = shown;
     while (!text.empty()) {
         const std::size_t length = CharacterLength(text);
         switch (text.front()) {
@@ -93,9 +96,9 @@ std::string_view Name(TextStyle::Anchor anchor) {
 
 } // namespace
 
-SvgPicture::SvgPicture(double width, double height, std::string_view title) {
+SvgPicture::SvgPicture(double width, double height, std::string_view title, double zoom) {
     svg_ = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg xmlns=\"http://www.w3.org/2000/svg\"" +
-           Attribute("width", width) + Attribute("height", height) +
+           Attribute("width", width * zoom) + Attribute("height", height * zoom) +
            Attribute("viewBox", "0 0 " + Number(width) + ' ' + Number(height)) +
            Attribute("role", "img") + Attribute("font-family", fonts) + ">\n<title>" +
            Escaped(title) + "</title>\n<rect width=\"100%\" height=\"100%\" fill=\"#ffffff\"/>\n";
@@ -136,11 +139,26 @@ void SvgPicture::AddText(Place place, std::string_view text, const TextStyle& st
     if (style.isBold) {
         svg_ += Attribute("font-weight", "bold");
     }
+    if (style.hasHalo) {
+        svg_ += Attribute("stroke", "#ffffff") + Attribute("stroke-width", 3.0) +
+                Attribute("stroke-linejoin", "round") + Attribute("paint-order", "stroke");
+    }
     if (style.isUpward) {
         svg_ +=
             Attribute("transform", "rotate(-90 " + Number(place.x) + ' ' + Number(place.y) + ')');
     }
     svg_ += '>' + Escaped(text) + "</text>\n";
+}
+
+void SvgPicture::BeginClip(Place corner, double width, double height) {
+    const std::string name = "clip" + std::to_string(++clips_);
+    svg_ += "<clipPath" + Attribute("id", name) + "><rect" + Attribute("x", corner.x) +
+            Attribute("y", corner.y) + Attribute("width", width) + Attribute("height", height) +
+            "/></clipPath>\n<g" + Attribute("clip-path", "url(#" + name + ')') + ">\n";
+}
+
+void SvgPicture::EndClip() {
+    svg_ += "</g>\n";
 }
 
 std::string SvgPicture::Finish() {

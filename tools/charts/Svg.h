@@ -29,16 +29,18 @@ struct TextStyle {
     Anchor anchor = Anchor::Start;
     bool isBold = false;
     bool isUpward = false; ///< turned by a quarter, to be read from below
+    bool hasHalo = false;  ///< stands out from lines that it is written on
     std::string colour = "#222222";
 };
 
 /// A picture on white ground that grows by one element after another, each above those before it.
-/// Places are rounded to a tenth of a pixel. Any text may be given: what XML can't hold is
-/// replaced.
+/// Places are rounded to a tenth of a pixel. Any text may be given: what a reader would obey
+/// instead of showing it comes out escaped, and what XML can't hold is replaced.
 class SvgPicture {
 public:
-    /// The title is what a screen reader says.
-    SvgPicture(double width, double height, std::string_view title);
+    /// The title is what a screen reader says. What is drawn in `width` and `height` is shown as
+    /// many times larger or smaller as `zoom` says.
+    SvgPicture(double width, double height, std::string_view title, double zoom = 1.0);
 
     void AddRectangle(Place corner, double width, double height, const Stroke& stroke);
     void AddLine(Place from, Place to, const Stroke& stroke);
@@ -48,11 +50,16 @@ public:
     /// `place` is on the base line of the text, where its anchor says.
     void AddText(Place place, std::string_view text, const TextStyle& style);
 
+    /// What is added from here to `EndClip` is seen within the rectangle alone.
+    void BeginClip(Place corner, double width, double height);
+    void EndClip();
+
     /// The whole file. Nothing can be added afterwards.
     std::string Finish();
 
 private:
     std::string svg_;
+    int clips_ = 0;
 };
 
 } // namespace FluidBenchTool

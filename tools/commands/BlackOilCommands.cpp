@@ -5,6 +5,7 @@
 #include "FluidBench/Common/Units.h"
 #include "FluidBench/Model/BlackOilTable.h"
 #include "FormatFinder.h"
+#include "PlotCommands.h"
 #include "Progress.h"
 #include "TableFiles.h"
 #include "io/BlackOilExportFileWriter.h"
@@ -404,6 +405,7 @@ constexpr Command commands[] = {
     {"blackoil", "convert", "Write the tables as keywords for a simulator, or with commas",
      "IN OUT", convertOptions, Convert},
     {"blackoil", "diff", "Tell what differs between two files", "A B", diffOptions, Diff},
+    blackOilPlot,
 };
 
 } // namespace

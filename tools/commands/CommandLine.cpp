@@ -53,7 +53,7 @@ Arguments::Arguments(const Command& command, std::span<const std::string> words)
     if (operands_.size() < wanted.size()) {
         Fail(std::string(wanted[operands_.size()]) + " is missing.");
     }
-    if (operands_.size() > wanted.size() && !(wanted.size() == 1 && TakesMore(wanted.front()))) {
+    if (operands_.size() > wanted.size() && !TakesMore(wanted.front())) {
         Fail("There is no place for " + InQuotes(operands_[wanted.size()]) + ".");
     }
     const bool hasOutput = wanted.back().starts_with("OUT");

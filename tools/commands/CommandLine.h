@@ -29,7 +29,8 @@ struct Command {
     std::string_view format; ///< empty for a command of every format
     std::string_view verb;
     std::string_view summary;
-    std::string_view operands; ///< parted by blanks; "FILE..." takes one or more
+    /// Parted by blanks. The first one takes one or more where it ends in three dots, as "FILE...".
+    std::string_view operands;
     std::span<const Option> options;
     void (*run)(Call&);
 };

@@ -6,6 +6,7 @@
 #include "FormatFinder.h"
 #include "Json.h"
 #include "NumberText.h"
+#include "PlotCommands.h"
 #include "Progress.h"
 #include "ShownUnit.h"
 #include "TableFiles.h"
@@ -220,6 +221,7 @@ constexpr Command commands[] = {
     {"depth", "show", "Show the fluids of a depth run", "IN", showOptions, Show},
     {"depth", "convert", "Write a depth variation table as keywords for a simulator", "IN OUT",
      convertOptions, Convert},
+    depthPlot,
 };
 
 } // namespace

@@ -3,8 +3,8 @@
 #include "EnvelopeChart.h"
 #include "EnvelopeLines.h"
 #include "Json.h"
+#include "Plots.h"
 #include "Progress.h"
-#include "Shown.h"
 #include "TextFile.h"
 #include "io/PhaseEnvelopeReaderWriter.h"
 
@@ -210,30 +210,50 @@ std::string NameOfPicture(const std::string& output, std::size_t index) {
     return path.replace_filename(name).string();
 }
 
-void Plot(Call& call) {
-    const std::string& output = call.Operand(1);
-    RequirePictureName(output);
-    const Plots plots = ReadPlots(call);
-    const EnvelopeUnits& units = ShownUnits(call);
+// A picture of each plot of a file.
+void PlotEach(Call& call, const Plots& plots, const EnvelopeUnits& units) {
+    const std::string& output = call.Asked().Operands().back();
     for (std::size_t i = 0; i < plots.size(); ++i) {
         RefuseSameFile(call, call.Operand(0), NameOfPicture(output, i));
     }
     for (std::size_t i = 0; i < plots.size(); ++i) {
-        std::string subtitle = Shown(PathOf(call.Operand(0)).filename().string());
+        std::string subtitle = SubtitleOf(call);
         if (plots.size() > 1) {
             subtitle += ", plot " + std::to_string(i + 1) + " of " + std::to_string(plots.size());
         }
-        const std::string name = NameOfPicture(output, i);
-        call.Write(name, [&](std::ostream& stream) {
-            stream << DrawChart(EnvelopeChart(LinesOf(plots[i], units), units, subtitle));
-        });
-        call.Out() << Shown(name) << '\n';
+        WritePicture(call, NameOfPicture(output, i),
+                     EnvelopeChart({{{}, LinesOf(plots[i], units)}}, units, subtitle));
+    }
+}
+
+// One picture of the plots of several files.
+void PlotTogether(Call& call, const EnvelopeUnits& units) {
+    std::vector<EnvelopePlot> all;
+    ForEachPlotted(call, [&](Input& input, const std::string& file) {
+        const Plots plots = ReadPlots(input, call);
+        for (std::size_t i = 0; i < plots.size(); ++i) {
+            const std::string plot =
+                plots.size() > 1 ? ", plot " + std::to_string(i + 1) : std::string();
+            all.push_back({LegendName(file) + plot, LinesOf(plots[i], units)});
+        }
+    });
+    WritePicture(call, call.Asked().Operands().back(), EnvelopeChart(all, units, SubtitleOf(call)));
+}
+
+void Plot(Call& call) {
+    RequirePicture(call);
+    const EnvelopeUnits& units = ShownUnits(call);
+    if (PlottedFiles(call).size() > 1) {
+        PlotTogether(call, units);
+    } else {
+        PlotEach(call, ReadPlots(call), units);
     }
 }
 
 constexpr Option showOptions[] = {Options::showUnits, Options::json, Options::csv, Options::strict};
 constexpr Option convertOptions[] = {to, Options::strict};
-constexpr Option plotOptions[] = {Options::showUnits, Options::strict};
+constexpr Option plotOptions[] = {Options::showUnits, Options::title,  Options::size,
+                                  Options::xRange,    Options::yRange, Options::strict};
 constexpr Command commands[] = {
     {"envelope", "show", "Show the plots of a file, their lines, and what each line ranges over",
      "IN", showOptions, Show},
@@ -242,8 +262,8 @@ constexpr Command commands[] = {
      convertOptions, Convert},
     {"envelope", "plot",
      "Draw pressure against temperature as SVG, and print the picture's name. A second plot of "
-     "the file goes to OUT-2.svg, and so on",
-     "IN OUT.svg", plotOptions, Plot},
+     "the file goes to OUT-2.svg, and so on; the plots of several files go into one picture",
+     "IN... OUT.svg", plotOptions, Plot},
 };
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "FluidBench/Model/KValuesTable.h"
 #include "FormatFinder.h"
 #include "Json.h"
+#include "PlotCommands.h"
 #include "Progress.h"
 #include "ShownUnit.h"
 #include "TableFiles.h"
@@ -239,6 +240,7 @@ constexpr Command commands[] = {
     {"kvalues", "convert", "Write the K-values as keywords for a simulator, or with commas",
      "IN OUT", convertOptions, Convert},
     {"kvalues", "diff", "Tell what differs between two files", "A B", diffOptions, Diff},
+    kValuesPlot,
 };
 
 } // namespace
