@@ -3,9 +3,11 @@
 #include "FailingRead.h"
 #include "TestSupport.h"
 #include "io/BlackOilExportFileWriter.h"
+#include "io/BlackOilKeywordReader.h"
 #include "io/DFAReader.h"
 #include "io/MFLFileReader.h"
 #include "io/PVOFileReader.h"
+#include "io/PhaseEnvelopeReaderWriter.h"
 
 #include <functional>
 
@@ -45,6 +47,24 @@ bool BlackOilIsRead(const std::string& file) {
     return diagnosed.Take(IO::Severity::Error).empty();
 }
 
+bool EnvelopesAreRead(const std::string& file) {
+    Diagnosed diagnosed;
+    IO::PhaseEnvelopeReaderWriter reader;
+    reader.SetDiagnosticSink(diagnosed.Sink());
+    reader.SetFileName(file);
+    std::vector<Common::CommonPlottingObject> plots;
+    std::vector<std::string> messages;
+    reader.Read(plots, messages);
+    return diagnosed.Take(IO::Severity::Error).empty();
+}
+
+bool KeywordsAreRead(const std::string& file) {
+    std::vector<Model::BlackOilTable> regions;
+    const bool isRead = !IO::BlackOilKeywordReader().Read(file, regions).HasErrors();
+    EXPECT_EQ(regions.empty(), !isRead);
+    return isRead;
+}
+
 } // namespace
 
 TEST(FailedReads, AreNotTakenForTheEnd) {
@@ -70,6 +90,9 @@ TEST(FailedReads, AreNotTakenForTheEnd) {
          [](const auto& file) { return DeckIsRead(file, true); }},
         {"MFL", "fluid.mfl", Sample("six-component-oil.mfl") + lines, MflIsRead},
         {"black oil", "oil.csv", Sample("reservoir-black-oil.csv") + lines, BlackOilIsRead},
+        {"envelopes", "gas.csv", Sample("rich-gas-envelope.csv") + lines, EnvelopesAreRead},
+        {"black-oil keywords", "oil.inc", Sample("two-region-black-oil.inc") + lines,
+         KeywordsAreRead},
         {"DFA", "WELL_DFA.txt", Sample("north-field_DFA.txt") + lines, dfaIsRead},
         {"FT", "WELL_FT.txt", Sample("north-field_FT.txt") + lines, dfaIsRead},
     };

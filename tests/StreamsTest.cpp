@@ -4,6 +4,7 @@
 #include "io/BlackOilExportFileWriter.h"
 #include "io/KValuesExportFileWriter.h"
 #include "io/PVOFileWriter.h"
+#include "io/PhaseEnvelopeReaderWriter.h"
 #include "io/ThermalExportFileWriter.h"
 
 #include <functional>
@@ -68,6 +69,34 @@ Model::ThermalExportTable Thermal() {
     table.SetZis({1.0});
     table.SetCrookston({1.5}, {1.5}, {1.5}, {1.5}, {1.5});
     return table;
+}
+
+// Phase envelopes are written by an object that has the name of its file.
+struct EnvelopeWrite {
+    ErrorReport operator()(const std::string& fileName) const {
+        IO::PhaseEnvelopeReaderWriter file(true);
+        file.SetFileName(fileName);
+        EXPECT_TRUE(file.Write({plot}));
+        return {};
+    }
+    ErrorReport operator()(std::ostream& out) const {
+        const bool isWritten = IO::PhaseEnvelopeReaderWriter(true).Write(out, {plot});
+        EXPECT_EQ(isWritten, out.good());
+        return {};
+    }
+
+    Common::CommonPlottingObject plot;
+};
+
+EnvelopeWrite Envelope() {
+    using AxisType = Common::CommonPlottingObject::AxisType;
+    EnvelopeWrite write{{AxisType::Temperature, AxisType::Pressure}};
+    write.plot.AddLine({"",
+                        {285.5, 300.0},
+                        {1.02e7, 1.08e7},
+                        Common::Line::Type::PhaseCurve,
+                        Common::Line::Phase::Bubble});
+    return write;
 }
 
 // One operation with either target.
@@ -138,6 +167,7 @@ std::vector<Operation> Operations() {
         {"K-values as CSV", kValues(KValuesExportFileWriter::CSV)},
         {"thermal", thermal(ThermalExportFileWriter::PVO)},
         {"thermal as CSV", thermal(ThermalExportFileWriter::CSV)},
+        {"phase envelopes", Envelope()},
     };
 }
 
