@@ -732,7 +732,7 @@ TEST_F(DeckImportTest, FindsTheUnitSystemFromTheText) {
 // A line counts whole, whatever its length and wherever the words stand in it.
 TEST_F(DeckImportTest, FindsTheUnitSystemInLinesOfAnyLength) {
     constexpr auto metric = pvtEnumPVOUnitSystemType::Metric;
-    for (const std::size_t length : {0, 1, 65'530, 65'536, 131'064, 300'000}) {
+    for (const std::size_t length : {0U, 1U, 65'530U, 65'536U, 131'064U, 300'000U}) {
         for (const char filling : {' ', 'T', '.'}) {
             const std::string some(length, filling);
             for (const std::string& text :

@@ -102,13 +102,13 @@ TEST(Messages, KeepTheirParameterAndRaiseTheFlagByTheirCode) {
 TEST(FluidComponents, KeepASourcePerProperty) {
     for (const Property& property : properties) {
         const auto isSetIn = [](const FluidComponent& component) {
-            std::string set;
+            std::string names;
             for (const Property& each : properties) {
                 if ((component.*each.source)() != Source::NoValue) {
-                    set += each.name;
+                    names += each.name;
                 }
             }
-            return set;
+            return names;
         };
         FluidComponent component("C1");
         EXPECT_EQ(isSetIn(component), "");
@@ -266,7 +266,7 @@ TEST(ComponentLibraries, HoldConsistentCriticalPoints) {
 TEST(Characterisation, FillsInTheOneCriticalValueThatIsMissing) {
     const FluidComponent methane = Model::ComponentLibrary(0).GetComponent("C1");
     // Critical pressure, temperature, volume and Z-factor: properties 1, 2, 3 and 5.
-    for (const std::size_t missing : {1, 2, 3, 5}) {
+    for (const std::size_t missing : {1U, 2U, 3U, 5U}) {
         FluidComponent component = methane;
         (component.*properties[missing].put)(0.0);
         CompositionalFluid fluid("fluid");

@@ -28,8 +28,8 @@ constexpr bool IsQuote(char c) noexcept {
 // What may end a word: the last two need a look at the character behind them.
 constexpr auto wordEnds = [] {
     std::array<bool, 256> table{};
-    for (const unsigned char c : {' ', '\t', '\r', '\v', '\f', '\n', '/', '-', '*'}) {
-        table[c] = true;
+    for (const char c : {' ', '\t', '\r', '\v', '\f', '\n', '/', '-', '*'}) {
+        table[static_cast<unsigned char>(c)] = true;
     }
     return table;
 }();
