@@ -59,7 +59,7 @@ inline void SetCoefficientsToZero(Orv::FluidBench::Model::CompositionalFluid& fl
 inline ReservoirFluid ReadFluid(const std::string& fileName) {
     using Orv::FluidBench::Common::Units;
     enum class Table { None, Components, Coefficients } table = Table::None;
-    const std::string name = std::filesystem::path(fileName).stem();
+    const std::string name = std::filesystem::path(fileName).stem().string();
     ReservoirFluid result{Orv::FluidBench::Model::CompositionalFluid(name), 0.0};
     result.fluid.SetEoS(Orv::FluidBench::Common::pvtEnumEoS::PengRobinson);
     for (const std::vector<std::string>& row : ReadRows(fileName)) {
