@@ -1,5 +1,5 @@
 // Reads a black-oil file with commas and prints the processor time in seconds, of each of so many
-// reads: what black_oil.py has for a baseline.
+// reads: what black_oil.py has for a baseline. Diagnostics are asked for, as Python does.
 //
 //     ReadBlackOil FILE COUNT
 #include "io/BlackOilExportFileWriter.h"
@@ -13,7 +13,9 @@ int main(int argumentCount, char** arguments) {
         std::cerr << "usage: ReadBlackOil FILE COUNT\n";
         return 2;
     }
-    const Orv::FluidBench::IO::BlackOilExportFileWriter reader;
+    Orv::FluidBench::IO::BlackOilExportFileWriter reader;
+    reader.SetDiagnosticSink([](const Orv::FluidBench::IO::Diagnostic&) {});
+    reader.SetReadsSaturationPoint(true);
     for (int count = std::stoi(arguments[2]); count > 0; --count) {
         const std::clock_t begin = std::clock();
         const auto table = reader.GetTableFromCSVFile(arguments[1]);

@@ -14,6 +14,7 @@ from ._keywords import read_keywords
 
 _OIL = ("region", "record", "gas_oil_ratio", "pressure", "formation_volume_factor", "viscosity")
 _GAS = ("region", "record", "pressure", "oil_gas_ratio", "formation_volume_factor", "viscosity")
+_COUNTS = ("region", "record")
 _UNITS = {
     "gas_oil_ratio": "m3/m3",
     "oil_gas_ratio": "m3/m3",
@@ -144,13 +145,13 @@ def _frame(
         if kind:
             record, *values = region[kinds[kind]]
             parts.append(
-                {"region": np.full(len(record), number), "record": record, **dict(zip(core, values))}
+                {"region": np.full(len(record), number, np.int32), "record": record, **dict(zip(core, values))}
             )
     if len(parts) == 1:
         data = {name: parts[0][name] for name in columns}
     else:
-        nothing = np.empty(0)
-        data = {name: np.concatenate([nothing] + [part[name] for part in parts]) for name in columns}
+        nothing = {name: np.empty(0, np.int32 if name in _COUNTS else float) for name in columns}
+        data = {n: np.concatenate([nothing[n]] + [part[n] for part in parts]) for n in columns}
     units = {name: _UNITS[name] for name in columns if name in _UNITS}
     return _frames.with_units(pd.DataFrame(data, copy=False), units), found
 

@@ -10,6 +10,7 @@
 #include <array>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace FluidBenchPython {
@@ -30,9 +31,9 @@ py::tuple RecordsToPython(const BlackOilDataRecords& records) {
     for (std::uint64_t record = 0; record < records.GetTableSize(); ++record) {
         rows += static_cast<py::ssize_t>(records.GetRecordContentSize(record));
     }
-    Integers number(rows);
+    py::array_t<std::int32_t> number(rows);
     std::array<Numbers, 4> columns{Numbers(rows), Numbers(rows), Numbers(rows), Numbers(rows)};
-    std::int64_t* nextNumber = number.mutable_data();
+    std::int32_t* nextNumber = number.mutable_data();
     std::array<double*, 4> next{};
     for (std::size_t i = 0; i < columns.size(); ++i) {
         next[i] = columns[i].mutable_data();
@@ -40,7 +41,7 @@ py::tuple RecordsToPython(const BlackOilDataRecords& records) {
     for (std::uint64_t record = 0; record < records.GetTableSize(); ++record) {
         const std::uint64_t entries = records.GetRecordContentSize(record);
         for (std::uint64_t entry = 0; entry < entries; ++entry) {
-            *nextNumber++ = static_cast<std::int64_t>(record) + 1;
+            *nextNumber++ = static_cast<std::int32_t>(record) + 1;
             *next[0]++ = records.GetPressure(record, entry);
             *next[1]++ = records.GetProperty(record, entry);
             *next[2]++ = records.GetFormationVolumeFactor(record, entry);
@@ -66,11 +67,16 @@ BlackOilDataRecords RecordsFromPython(const py::tuple& columns) {
     return records;
 }
 
-py::dict TableToPython(const BlackOilTable& table) {
+// Each part of the table goes when it is in Python, so that the next one finds memory that is
+// warm.
+py::dict TableToPython(BlackOilTable table) {
     py::dict result;
     result["live_oil"] = RecordsToPython(table.GetLiveOilData());
+    table.SetLiveOilData(BlackOilDataRecords());
     result["dead_oil"] = RecordsToPython(table.GetDeadOilData());
+    table.SetDeadOilData(BlackOilDataRecords());
     result["wet_gas"] = RecordsToPython(table.GetWetGasData());
+    table.SetWetGasData(BlackOilDataRecords());
     result["dry_gas"] = RecordsToPython(table.GetDryGasData());
     result["oil_density"] = table.GetOilDensity();
     result["gas_density"] = table.GetGasDensity();
@@ -103,14 +109,14 @@ py::tuple ReadCsv(const py::object& source, const py::str& name) {
     Writer reader;
     reader.SetDiagnosticSink(findings.Sink());
     reader.SetReadsSaturationPoint(true);
-    const BlackOilTable table =
+    BlackOilTable table =
         Source(source, name)
             .Read([&](const std::string& path) { return reader.GetTableFromCSVFile(path); },
                   [&](std::istream& in, const std::string& called) {
                       return reader.GetTableFromCSVFile(in, called);
                   });
     py::list regions;
-    regions.append(TableToPython(table));
+    regions.append(TableToPython(std::move(table)));
     return findings.With(regions);
 }
 
@@ -119,8 +125,8 @@ py::tuple ReadKeywordFile(const py::object& source, const py::str& name, const s
     std::vector<BlackOilTable> tables;
     ReadKeywords<BlackOilKeywordReader>(source, name, units, findings, tables);
     py::list regions;
-    for (const BlackOilTable& table : tables) {
-        regions.append(TableToPython(table));
+    for (BlackOilTable& table : tables) {
+        regions.append(TableToPython(std::move(table)));
     }
     return findings.With(regions);
 }
