@@ -21,4 +21,10 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY
 # look for the libraries when the package comes or goes.
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+if(TARGET FluidBenchPython)
+    get_target_property(python_packages FluidBenchPython FLUIDBENCH_DEBIAN_PACKAGES)
+    set(CPACK_DEBIAN_PACKAGE_DEPENDS ${python_packages})
+    set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA
+        ${CMAKE_CURRENT_SOURCE_DIR}/debian/postinst ${CMAKE_CURRENT_SOURCE_DIR}/debian/prerm)
+endif()
 include(CPack)

@@ -52,6 +52,8 @@ class FluidBenchError(ValueError):
     line. Both are empty where Python itself refused.
     """
 
+    __module__ = "fluidbench_io"  # where its users find it
+
     def __init__(
         self,
         text: str,
@@ -65,6 +67,8 @@ class FluidBenchError(ValueError):
 
 class FluidBenchWarning(UserWarning):
     """Something of a file didn't reach the result, or may mean something else."""
+
+    __module__ = "fluidbench_io"
 
 
 @dataclass(frozen=True)

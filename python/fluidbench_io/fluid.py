@@ -61,9 +61,10 @@ class Fluid:
         components.insert(0, "fraction", raw["fractions"])
         components["non_hydrocarbon"] = raw["non_hydrocarbon"]
         components["reference_conditions"] = raw["reference_conditions"]
+        interactions = pd.DataFrame(raw["interactions"], index=index, columns=index)
         return cls(
             components=_frames.with_units(components, _UNITS),
-            interactions=pd.DataFrame(raw["interactions"], index=index, columns=index),
+            interactions=_frames.with_units(interactions, dict.fromkeys(index, "1")),
             eos=raw["eos"],
             viscosity=raw["viscosity"],
             temperature=raw.get("temperature"),

@@ -5,7 +5,7 @@ from typing import NamedTuple
 import numpy as np
 import pandas as pd
 
-from . import _core
+from . import _core, _frames
 from ._errors import unpack
 from ._files import Readable, as_file
 from .fluid import Fluid
@@ -38,4 +38,5 @@ def read_mfl(path: Readable) -> Mfl:
         index=pd.RangeIndex(1, len(amounts) + 1, name="stream"),
         columns=fluid.components.index,
     )
-    return Mfl(fluid, streams)
+    units = dict.fromkeys(streams.columns, "as in the file")
+    return Mfl(fluid, _frames.with_units(streams, units))

@@ -83,6 +83,38 @@ def test_exceptions_of_a_file_object_pass_through(pvt):
             action(3)
 
 
+class ClosedUnderTheReader(io.BytesIO):
+    def read(self, size=-1):
+        block = super().read(20)
+        self.close()
+        return block
+
+
+@pytest.mark.parametrize(
+    "read, name",
+    [
+        (fb.read_deck, "reservoir-oil-field.dat"),
+        (fb.read_black_oil, "two-region-black-oil.inc"),
+        (fb.read_k_values, "two-temperatures-k-values.inc"),
+        (fb.read_thermal, "two-component-thermal.inc"),
+        (fb.read_depth_tables, "north-flank-depth.inc"),
+        (fb.read_compositions, "north-flank-compositions.inc"),
+        (fb.read_envelopes, "rich-gas-envelope.csv"),
+        (fb.read_mfl, "six-component-oil.mfl"),
+    ],
+)
+def test_every_reader_tells_what_it_cannot_read(read, name, tmp_path):
+    with pytest.raises(ValueError, match="closed file"):
+        read(ClosedUnderTheReader((DATA / name).read_bytes()))
+    for nothing in (tmp_path / "nowhere", tmp_path, io.BytesIO(b"\0\xff/"), io.BytesIO()):
+        with pytest.raises(fb.FluidBenchError, match="can't be read as") as told:
+            read(nothing)
+        assert told.value.messages or told.value.diagnostics
+    if "units" in read.__annotations__:
+        with pytest.raises(ValueError, match="units has to be one of 'auto', 'metric', 'field'"):
+            read(DATA / name, units="imperial")
+
+
 def test_a_failed_write_leaves_the_old_file(pvt, tmp_path):
     path = tmp_path / "pvt.inc"
     path.write_text("old")

@@ -69,6 +69,45 @@ def test_thermal_data():
     )
 
 
+def test_typed_keywords_come_in_model_units():
+    first, second = fb.read_k_values(DATA / "two-temperatures-k-values.inc")
+    assert first.values.loc[first.values.index[0], "C3"] == 0.52
+    assert second.values.index[2] == pytest.approx(2000.0 * 6894.757293)
+    assert second.temperature == pytest.approx(344.2611)
+    names = ["C1", "C3", "C6"]
+    bubble, ratio, fractions = fb.read_depth_tables(
+        DATA / "north-flank-depth.inc", components=names
+    )
+    assert bubble.values["bubble_point"].tolist() == pytest.approx([165e5, 154e5, 149.4e5])
+    assert bubble.values.attrs["units"] == {"depth": "m", "bubble_point": "Pa"}
+    assert (ratio.keyword, ratio.values["gas_oil_ratio"][2590.0]) == ("RSVD", 104.7)
+    assert fractions.values.loc[2590.0].to_dict() == {"C1": 0.56, "C3": 0.26, "C6": 0.18}
+    with pytest.raises(fb.FluidBenchError, match="the file has 3 components, and 2 are named"):
+        fb.read_depth_tables(DATA / "north-flank-depth.inc", components=names[:2])
+    field = fb.read_black_oil(DATA / "two-region-black-oil.inc")
+    assert field.oil["region"].tolist() == [1] * 4 + [2] * 4
+    assert field.region(2).oil.iloc[1][["record", "pressure"]].tolist() == pytest.approx([1, 150e5])
+    assert field.gas.attrs == field.region(2).gas.attrs
+
+
+@pytest.mark.parametrize("units", ["metric", "field"])
+def test_compositions_come_back(units):
+    (table,) = fb.read_compositions(DATA / "north-flank-compositions.inc")
+    text = written(fb.write_compositions, table, units=units, high_precision=True)
+    (back,) = fb.read_compositions(io.StringIO(text))
+    for phase in ("vapour", "liquid"):
+        frame = getattr(table, phase)
+        pd.testing.assert_frame_equal(getattr(back, phase).sort_index(), frame.sort_index())
+    refused(
+        [
+            (fb.Compositions(None, None), fb.FluidBenchError, "no phase"),
+            (fb.Compositions(table.vapour, table.liquid.iloc[:1]), fb.FluidBenchError, "other"),
+            (table.vapour, TypeError, "a Compositions, not DataFrame"),
+        ],
+        fb.write_compositions,
+    )
+
+
 def depth_table(keyword, column, values, depths):
     return fb.DepthTable(keyword, pd.DataFrame({column: values}, index=depths))
 
