@@ -16,6 +16,11 @@ constexpr bool IsDigit(char c) noexcept {
     return c >= '0' && c <= '9';
 }
 
+/// White space by the C library.
+constexpr bool IsSpace(char c) noexcept {
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
 /// The text without the white space around it.
 constexpr std::string_view WithoutBlanks(std::string_view text) noexcept {
     constexpr std::string_view blanks = " \t\r\v\f\n";

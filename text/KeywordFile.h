@@ -59,6 +59,11 @@ public:
         Pass(1);
         ++line_;
     }
+    /// Passes that many of the characters ahead, behind which is that line.
+    void PassLines(std::size_t count, std::uint64_t line) noexcept {
+        input_.Pass(count);
+        line_ = line;
+    }
 
 private:
     void RequirePlainText();

@@ -151,30 +151,33 @@ Token KeywordLexer::NextPath() {
         [this](bool isAtHeadOfLine) { return ReadPath(isAtHeadOfLine); });
 }
 
-std::size_t KeywordLexer::TakeNumber(double& number) {
-    std::string_view ahead = file_.Ahead();
-    std::size_t begin = 0;
-    for (;;) {
-        while (begin < ahead.size() && IsBlank(ahead[begin])) {
-            ++begin;
+KeywordLexer::TakenNumbers KeywordLexer::TakeNumbers(std::span<double> numbers) {
+    const std::string_view ahead = file_.Ahead();
+    const char* const end = ahead.data() + ahead.size();
+    const char* taken = ahead.data(); // the end of what is
+    TakenNumbers result{0, 0, 0, file_.Line()};
+    for (double& number : numbers) {
+        const char* item = taken;
+        std::uint64_t line = result.lastLine;
+        for (; item != end && (IsBlank(*item) || *item == '\n'); ++item) {
+            line += *item == '\n' ? 1 : 0;
         }
-        if (begin == ahead.size() || ahead[begin] != '\n') {
+        const char* const behind = ReadNumberAhead(item, end, number);
+        if (behind == nullptr || behind == end ||
+            !(IsBlank(*behind) || *behind == '\n' || *behind == '/')) {
             break;
         }
-        Pass(begin);
-        PassNewline();
-        ahead = file_.Ahead();
-        begin = 0;
+        result.firstLine = result.count == 0 ? line : result.firstLine;
+        result.lastLine = line;
+        result.longest = std::max(result.longest, static_cast<std::size_t>(behind - item));
+        ++result.count;
+        taken = behind;
     }
-    const std::string_view item = ahead.substr(begin);
-    const std::size_t length = ReadNumberAhead(item, number);
-    // What may go on behind the block, or with other characters, is left alone.
-    if (length == 0 || length == item.size() ||
-        !(IsBlank(item[length]) || item[length] == '\n' || item[length] == '/')) {
-        return 0;
+    if (result.count > 0) {
+        isAtHeadOfLine_ = false;
+        file_.PassLines(static_cast<std::size_t>(taken - ahead.data()), result.lastLine);
     }
-    Pass(begin + length);
-    return length;
+    return result;
 }
 
 void KeywordLexer::ReadComment() {

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -73,10 +74,19 @@ public:
     /// The next token. Its text is valid until the next call of an operation that isn't const.
     Token Next();
 
-    /// Takes the next item where it is a number and nothing else, together with the blanks and line
-    /// ends ahead of it: the quick way through a table. Gives the length of its text; 0 where the
-    /// next item may be anything else, or a number that `Next` has to give.
-    std::size_t TakeNumber(double& number);
+    /// What `TakeNumbers` took.
+    struct TakenNumbers {
+        std::size_t count = 0;
+        std::size_t longest = 0;     ///< length of the longest one's text
+        std::uint64_t firstLine = 0; ///< of the first number
+        std::uint64_t lastLine = 0;  ///< of the last one
+    };
+
+    /// Takes the next items for as long as they are numbers and nothing else, with blanks and line
+    /// ends ahead of them, and fills `numbers` at the most: the quick way through a table. Stops
+    /// ahead of what may be anything else, and where `Next` has to give a number because it may go
+    /// on in the next block.
+    TakenNumbers TakeNumbers(std::span<double> numbers);
 
     /// The next token where a path is expected: without quotes it goes up to a blank, with the
     /// slashes in it but for one at its end.

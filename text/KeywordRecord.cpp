@@ -4,6 +4,7 @@
 #include "NumberText.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <stdexcept>
 
@@ -34,10 +35,7 @@ KeywordRecord::KeywordRecord(const KeywordPlace& place)
 std::size_t KeywordRecord::ReadNumbers(const ItemCount& count, const TakeNumber& take) {
     std::size_t index = 0;
     for (;;) {
-        double plain = 0.0;
-        while (index < count.most && lexer_.TakeNumber(plain) != 0) {
-            take(index++, &plain);
-        }
+        index = TakePlainNumbers(index, count.most, take);
         const Token item = NextItem(count.meaning);
         if (item.kind == Kind::Slash) {
             break;
@@ -57,6 +55,22 @@ std::size_t KeywordRecord::ReadNumbers(const ItemCount& count, const TakeNumber&
         Fail(count.meaning, "'/' behind " + std::to_string(index) + " of them");
     }
     return index;
+}
+
+// The quick way through the numbers that come next. Gives the index of what is behind them.
+std::size_t KeywordRecord::TakePlainNumbers(std::size_t index, std::size_t most,
+                                            const TakeNumber& take) {
+    std::array<double, 64> numbers;
+    for (;;) {
+        const std::size_t room = std::min(numbers.size(), most - index);
+        const std::size_t count = lexer_.TakeNumbers(std::span(numbers).first(room)).count;
+        for (std::size_t i = 0; i < count; ++i) {
+            take(index++, &numbers[i]);
+        }
+        if (count < numbers.size()) {
+            return index;
+        }
+    }
 }
 
 std::uint64_t KeywordRecord::ReadCount() {

@@ -62,6 +62,7 @@ public:
     [[noreturn]] void Fail(const std::string& expected, const std::string& found) const;
 
 private:
+    std::size_t TakePlainNumbers(std::size_t index, std::size_t most, const TakeNumber& take);
     Token NextItem(const std::string& meaning);
 
     std::string keyword_;

@@ -2,10 +2,10 @@
 
 #include "Characters.h"
 #include "NumberDigits.h"
+#include "PlainDecimal.h"
 
 #include <algorithm>
 #include <array>
-#include <cfloat>
 #include <cmath>
 #include <iterator>
 #include <limits>
@@ -103,16 +103,15 @@ std::size_t TakeWidth(std::ostream& out) {
     return static_cast<std::size_t>(std::max<std::streamsize>(out.width(0), 0));
 }
 
-constexpr bool IsSpace(char c) noexcept {
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
 constexpr bool IsHexadecimalDigit(char c) noexcept {
     return IsDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }
 
 std::string_view SkipSpace(std::string_view text) noexcept {
-    const auto* const first = std::ranges::find_if_not(text, IsSpace);
-    return {first, static_cast<std::size_t>(text.end() - first)};
+    while (!text.empty() && IsSpace(text.front())) {
+        text.remove_prefix(1);
+    }
+    return text;
 }
 
 bool TakeSign(std::string_view& text) noexcept {
@@ -164,75 +163,6 @@ bool IsHuge(std::string_view number, std::chars_format notation) noexcept {
     return place * (isHexadecimal ? 4 : 1) + exponent > 0;
 }
 
-constexpr auto powersOfTen = [] {
-    std::array<double, 23> powers{1.0}; // as far as a double is exact
-    for (std::size_t i = 1; i < powers.size(); ++i) {
-        powers[i] = powers[i - 1] * 10.0;
-    }
-    return powers;
-}();
-
-// The exponent behind a mantissa: a letter, a sign and digits. Moves to its end and gives its
-// value; gives zero and stays where there is none, and a large value where it has more than three
-// digits.
-int TakeExponent(const char*& position, const char* end) noexcept {
-    const char* digit = position;
-    if (digit == end || (*digit != 'e' && *digit != 'E')) {
-        return 0;
-    }
-    ++digit;
-    const bool isNegative = digit != end && *digit == '-';
-    if (digit != end && (*digit == '-' || *digit == '+')) {
-        ++digit;
-    }
-    int value = 0;
-    const char* const first = digit;
-    for (; digit != end && IsDigit(*digit) && value < 1000; ++digit) {
-        value = value * 10 + (*digit - '0');
-    }
-    if (digit == first) {
-        return 0;
-    }
-    position = digit;
-    return isNegative ? -value : value;
-}
-
-// Numbers as files have them. Up to 19 digits make a whole number that 64 bits hold. When it is at
-// most 2^53, a double has it exactly, as it has the powers of ten; dividing or multiplying these
-// two rounds once, so it gives the nearest double. Gives the end of the number, and null for all
-// other numbers and texts.
-const char* ReadPlainDecimal(const char* position, const char* end, double& value) noexcept {
-    constexpr std::ptrdiff_t mostDigits = 19;
-    constexpr std::uint64_t mostExact = std::uint64_t{1} << 53;
-    std::uint64_t mantissa = 0;
-    std::ptrdiff_t digits = 0;
-    const auto takeDigits = [&] {
-        const char* const first = position;
-        for (; position != end && IsDigit(*position); ++position) {
-            mantissa = mantissa * 10 + static_cast<std::uint64_t>(*position - '0');
-        }
-        digits += position - first;
-        return position - first;
-    };
-    takeDigits();
-    std::ptrdiff_t decimals = 0;
-    if (position != end && *position == '.') {
-        ++position;
-        decimals = takeDigits();
-    }
-    if (FLT_EVAL_METHOD != 0 || digits == 0 || digits > mostDigits || mantissa > mostExact) {
-        return nullptr;
-    }
-    const int exponent = TakeExponent(position, end) - static_cast<int>(decimals);
-    const auto power = static_cast<std::size_t>(std::abs(exponent));
-    if (power >= powersOfTen.size()) {
-        return nullptr;
-    }
-    const auto whole = static_cast<double>(mantissa);
-    value = exponent < 0 ? whole / powersOfTen[power] : whole * powersOfTen[power];
-    return position;
-}
-
 Magnitude ReadMagnitude(std::string_view text, std::chars_format notation) noexcept {
     Magnitude number;
     if (notation == std::chars_format::general) {
@@ -269,12 +199,8 @@ double Signed(bool isNegative, const Magnitude& number) noexcept {
     return isNegative && number.isThere ? -number.value : number.value;
 }
 
-bool HasHexadecimalPrefix(std::string_view text) noexcept {
-    return text.starts_with("0x") || text.starts_with("0X");
-}
-
-Magnitude ReadAsAtof(std::string_view text) noexcept {
-    if (HasHexadecimalPrefix(text)) {
+Magnitude ReadMagnitudeAsAtof(std::string_view text) noexcept {
+    if (text.starts_with("0x") || text.starts_with("0X")) {
         // Some standard libraries take the exponent of "1p+-1" for a number.
         const std::string_view digits = text.substr(2, text.find("+-") - 2);
         const bool isNumber =
@@ -393,66 +319,40 @@ void WriteNumber(std::ostream& out, std::uint64_t value) {
     number.WriteTo(out);
 }
 
-double ParseAsAtof(std::string_view text) noexcept {
-    text = SkipSpace(text);
+const char* AnyNumber::ReadAsAtof(const char* begin, const char* end, double& number) noexcept {
+    std::string_view text = SkipSpace({begin, static_cast<std::size_t>(end - begin)});
     const bool isNegative = TakeSign(text);
-    return Signed(isNegative, ReadAsAtof(text));
+    const Magnitude magnitude = ReadMagnitudeAsAtof(text);
+    number = Signed(isNegative, magnitude);
+    // What a hexadecimal number was looked for in may end ahead of the text.
+    return magnitude.isThere ? magnitude.rest.data() : begin;
 }
 
-double TakeAsAtof(std::string_view& text) noexcept {
-    std::string_view number = SkipSpace(text);
-    const bool isNegative = TakeSign(number);
-    if (!HasHexadecimalPrefix(number)) {
-        double plain = 0.0;
-        const char* const end =
-            ReadPlainDecimal(number.data(), number.data() + number.size(), plain);
-        if (end != nullptr) {
-            text.remove_prefix(static_cast<std::size_t>(end - text.data()));
-            return isNegative ? -plain : plain;
-        }
-    }
-    const Magnitude magnitude = ReadAsAtof(number);
-    if (magnitude.isThere) {
-        // What a hexadecimal number was looked for in may end ahead of the text.
-        text.remove_prefix(static_cast<std::size_t>(magnitude.rest.data() - text.data()));
-    }
-    return Signed(isNegative, magnitude);
+const char* AnyNumber::ReadLeadingDecimal(const char* begin, const char* end,
+                                          double& number) noexcept {
+    std::string_view text = SkipSpace({begin, static_cast<std::size_t>(end - begin)});
+    const bool isNegative = TakeSign(text);
+    const Magnitude magnitude = ReadDecimal(text);
+    number = Signed(isNegative, magnitude);
+    return magnitude.isThere ? magnitude.rest.data() : begin;
 }
 
-double TakeLeadingDecimal(std::string_view& text) noexcept {
-    std::string_view number = SkipSpace(text);
-    const bool isNegative = TakeSign(number);
-    const Magnitude magnitude = ReadDecimal(number);
-    if (magnitude.isThere) {
-        text = magnitude.rest;
-    }
-    return Signed(isNegative, magnitude);
-}
-
-double ParseLeadingDecimal(std::string_view text) noexcept {
-    return TakeLeadingDecimal(text);
-}
-
-std::optional<double> TakeExtracted(std::string_view& text) noexcept {
-    std::string_view digits = SkipSpace(text);
+const char* AnyNumber::ReadExtracted(const char* begin, const char* end, double& number) noexcept {
+    std::string_view digits = SkipSpace({begin, static_cast<std::size_t>(end - begin)});
     const bool isNegative = TakeSign(digits);
-    const Magnitude number = ReadDecimal(digits);
-    if (!number.isThere || number.isTooLarge) {
-        return std::nullopt;
+    const Magnitude magnitude = ReadDecimal(digits);
+    if (!magnitude.isThere || magnitude.isTooLarge) {
+        return nullptr;
     }
-    if (number.rest.starts_with('e') || number.rest.starts_with('E')) {
+    if (magnitude.rest.starts_with('e') || magnitude.rest.starts_with('E')) {
         // "1e5e" is a whole number and a letter; "1e" is an exponent that never comes.
-        const auto taken = digits.substr(0, digits.size() - number.rest.size());
+        const auto taken = digits.substr(0, digits.size() - magnitude.rest.size());
         if (taken.find_first_of("eE") == std::string_view::npos) {
-            return std::nullopt;
+            return nullptr;
         }
     }
-    text = number.rest;
-    return isNegative ? -number.value : number.value;
-}
-
-std::optional<double> ExtractDecimal(std::string_view text) noexcept {
-    return TakeExtracted(text);
+    number = Signed(isNegative, magnitude);
+    return magnitude.rest.data();
 }
 
 bool ParseNumber(std::string_view text, double& number) {
@@ -472,24 +372,23 @@ bool ParseNumber(std::string_view text, double& number) {
            (ParseWhole(text, number) || ParseWithD(text, number));
 }
 
-std::size_t ReadNumberAhead(std::string_view text, double& number) noexcept {
-    const bool isNegative = text.starts_with('-');
-    const char* const begin = text.data() + (isNegative ? 1 : 0);
-    const char* const end = text.data() + text.size();
+const char* ReadNumberAhead(const char* begin, const char* end, double& number) noexcept {
+    const bool isNegative = begin != end && *begin == '-';
+    begin += isNegative ? 1 : 0;
     if (begin == end || !(IsDigit(*begin) || *begin == '.')) {
-        return 0;
+        return nullptr;
     }
     double magnitude = 0.0;
     const char* behind = ReadPlainDecimal(begin, end, magnitude);
     if (behind == nullptr) {
         const auto [numberEnd, error] = std::from_chars(begin, end, magnitude);
         if (error != std::errc()) {
-            return 0;
+            return nullptr;
         }
         behind = numberEnd;
     }
     number = isNegative ? -magnitude : magnitude;
-    return static_cast<std::size_t>(behind - text.data());
+    return behind;
 }
 
 std::optional<std::uint64_t> ParseCount(std::string_view text) noexcept {

@@ -300,15 +300,9 @@ bool KeywordWalker::ReadRow(std::span<double> row, std::string_view meaning, Def
 std::size_t KeywordWalker::ReadRowPart(std::span<double> row, std::string_view meaning,
                                        Defaults defaults) {
     for (std::size_t index = 0; index < row.size();) {
-        if (!held_) {
-            if (const std::size_t length = Lexer().TakeNumber(row[index])) {
-                line_ = PositionLine();
-                rowLine_ = index == 0 ? line_ : rowLine_;
-                longestNumber_ = std::max(longestNumber_, length);
-                isInRecord_ = true;
-                ++index;
-                continue;
-            }
+        index += TakePlainNumbers(row.subspan(index), index == 0);
+        if (index == row.size()) {
+            break;
         }
         const Token item = NextItem(meaning);
         if (item.kind == Kind::Slash) {
@@ -319,6 +313,21 @@ std::size_t KeywordWalker::ReadRowPart(std::span<double> row, std::string_view m
         TakeRepeated(item, row, index, meaning, defaults);
     }
     return row.size();
+}
+
+// The quick way through the numbers of a row; gives how many it took. Whatever else comes is left.
+std::size_t KeywordWalker::TakePlainNumbers(std::span<double> numbers, bool beginRow) {
+    if (held_) {
+        return 0;
+    }
+    const auto taken = Lexer().TakeNumbers(numbers);
+    if (taken.count > 0) {
+        isInRecord_ = true;
+        line_ = taken.lastLine;
+        rowLine_ = beginRow ? taken.firstLine : rowLine_;
+        longestNumber_ = std::max(longestNumber_, taken.longest);
+    }
+    return taken.count;
 }
 
 void KeywordWalker::TakeRepeated(const Token& item, std::span<double> row, std::size_t& index,

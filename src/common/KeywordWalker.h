@@ -171,6 +171,7 @@ private:
                                                      const Text::FilePlace& line) const;
     void PassSlash();
     Text::RepeatedNumber Repeated(const Text::Token& item, std::string_view meaning);
+    std::size_t TakePlainNumbers(std::span<double> numbers, bool beginRow);
     void TakeRepeated(const Text::Token& item, std::span<double> row, std::size_t& index,
                       std::string_view meaning, Defaults defaults);
     [[noreturn]] void FailDefault(const Text::Token& item, std::string_view meaning) const;
