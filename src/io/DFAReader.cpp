@@ -97,6 +97,8 @@ struct UsableRows {
 
 UsableRows UsableRowsOf(const Data& data, const Impl::IO::DfaFile& file) {
     UsableRows usable;
+    usable.places.reserve(data.rows.size());
+    usable.indices.reserve(data.rows.size());
     for (std::size_t i = 0; i < data.rows.size(); ++i) {
         if (data.rows[i].size() >= file.columns) {
             usable.places.push_back({data.wellNames[i], data.rows[i][Impl::IO::dfaDepthColumn]});
@@ -104,6 +106,23 @@ UsableRows UsableRowsOf(const Data& data, const Impl::IO::DfaFile& file) {
         }
     }
     return usable;
+}
+
+// Behind the rows that have the same well as the first one.
+std::size_t EndOfRun(const std::vector<WellDepth>& places, std::size_t first) {
+    std::size_t end = first;
+    while (end < places.size() && places[end].well == places[first].well) {
+        ++end;
+    }
+    return end;
+}
+
+void MakeRoom(WellData& well, std::size_t stations) {
+    for (auto* const values : {&well.pressures, &well.temperatures, &well.densities,
+                               &well.gasOilRatios, &well.depths, &well.stationValues}) {
+        values->reserve(stations);
+    }
+    well.compositions.reserve(stations);
 }
 
 void AppendStation(WellData& well, const std::vector<double>& row, double pressure) {
@@ -244,16 +263,18 @@ std::vector<WellData> DFAReader::ExtractDataOfInterest(const std::vector<std::ui
         LastMatches(stations.places, readings.places, depthTolerance);
 
     std::vector<WellData> found;
-    for (std::size_t i = 0; i < matches.size(); ++i) {
-        const std::string_view name = stations.places[i].well;
-        if (found.empty() || found.back().name != name) {
-            found.emplace_back().name = name;
+    for (std::size_t i = 0; i < matches.size();) {
+        const std::size_t end = EndOfRun(stations.places, i);
+        WellData& well = found.emplace_back();
+        well.name = stations.places[i].well;
+        MakeRoom(well, end - i);
+        for (; i < end; ++i) {
+            const double pressure =
+                matches[i] == noMatch
+                    ? 0.0
+                    : pressureData.rows[readings.indices[matches[i]]][PressureColumn::pressure];
+            AppendStation(well, mainData.rows[stations.indices[i]], pressure);
         }
-        const double pressure =
-            matches[i] == noMatch
-                ? 0.0
-                : pressureData.rows[readings.indices[matches[i]]][PressureColumn::pressure];
-        AppendStation(found.back(), mainData.rows[stations.indices[i]], pressure);
     }
     if (ofMain.AreWanted()) {
         TellOfStations(stations, matches, lines, ofMain);

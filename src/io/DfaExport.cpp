@@ -60,8 +60,8 @@ std::string_view WithoutFirst(std::string_view text) {
 }
 
 // The numbers of a text whose parts stand between single blanks, up to the first part that isn't a
-// number. Text behind a number in its part doesn't matter.
-void ReadNumbers(std::string_view text, std::vector<double>& numbers) {
+// number: false where there is one. Text behind a number in its part doesn't matter.
+bool ReadNumbers(std::string_view text, std::vector<double>& numbers) {
     for (;;) {
         std::string_view rest = text;
         // White space may lead a number, but not from one part into the next.
@@ -69,15 +69,35 @@ void ReadNumbers(std::string_view text, std::vector<double>& numbers) {
         const auto number =
             isSpaceAhead ? ExtractDecimal(text.substr(0, text.find(' '))) : TakeExtracted(rest);
         if (!number) {
-            return;
+            return false;
         }
         numbers.push_back(*number);
         const std::size_t blank = rest.find(' ');
         if (blank == std::string_view::npos) {
-            return;
+            return true;
         }
         text = rest.substr(blank + 1);
     }
+}
+
+// The blank behind each quoted text goes; the one that parts the two texts ends the first.
+std::string NumberTextOf(const RowText& row) {
+    return std::string(WithoutFirst(row.firstNumbers)) += WithoutFirst(row.lastNumbers);
+}
+
+std::vector<double> NumbersOf(const RowText& row, std::size_t expected) {
+    std::vector<double> numbers;
+    numbers.reserve(expected);
+    std::string_view first = WithoutFirst(row.firstNumbers);
+    if (first.ends_with(' ')) { // and so parts end there
+        first.remove_suffix(1);
+        if (ReadNumbers(first, numbers)) {
+            ReadNumbers(WithoutFirst(row.lastNumbers), numbers);
+        }
+    } else {
+        ReadNumbers(NumberTextOf(row), numbers);
+    }
+    return numbers;
 }
 
 // Tells what the parser passes over. It is asked only when somebody listens.
@@ -196,8 +216,6 @@ private:
     bool hasEnded_ = false;
     bool isOpen_ = true; // no end stands behind the last begin
     DfaExport result_;
-    std::string numberText_; // of a row
-    std::vector<double> numbers_;
 };
 
 std::optional<DfaExport> Parser::Read() {
@@ -242,17 +260,14 @@ void Parser::TakeRow(std::string_view line) {
         }
         return;
     }
-    // The blank behind each quoted text goes; the one that parts the two texts ends the first.
-    numberText_ = WithoutFirst(row->firstNumbers);
-    numberText_ += WithoutFirst(row->lastNumbers);
-    numbers_.clear();
-    ReadNumbers(numberText_, numbers_);
-    result_.data.wellNames.emplace_back(row->well);
-    result_.data.stationLabels.emplace_back(row->station);
-    result_.data.rows.push_back(numbers_);
+    auto& [rows, stationLabels, wellNames] = result_.data;
+    const std::size_t expected = rows.empty() ? 0 : rows.back().size();
+    wellNames.emplace_back(row->well);
+    stationLabels.emplace_back(row->station);
+    rows.push_back(NumbersOf(*row, expected));
     if (diagnostics_.AreWanted()) {
         result_.lines.push_back(lines_.Number());
-        watch_.Row(numberText_, numbers_);
+        watch_.Row(NumberTextOf(*row), rows.back());
     }
 }
 
