@@ -4,7 +4,13 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 #include <map>
+#include <string_view>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace FluidBenchBenchmark {
 
@@ -51,10 +57,26 @@ void Print(const Ratio& ratio, const LeastTimes& times) {
     }
 }
 
+// Large pieces of memory come from the heap too, and the heap never shrinks.
+void KeepMemory() {
+#ifdef __GLIBC__
+    mallopt(M_MMAP_MAX, 0);
+    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+#endif
+}
+
+// Takes the argument off the others. False where it isn't there.
+bool TakeArgument(std::vector<char*>& arguments, std::string_view argument) {
+    return std::erase_if(arguments, [=](const char* each) { return each == argument; }) > 0;
+}
+
 } // namespace
 
 int RunAndPrintRatios(int argumentCount, char** arguments, const std::vector<Ratio>& ratios) {
     std::vector<char*> all(arguments, arguments + argumentCount);
+    if (!TakeArgument(all, "--fresh-memory")) {
+        KeepMemory();
+    }
     std::string repetitions = "--benchmark_repetitions=5";
     std::string interleaving = "--benchmark_enable_random_interleaving=true";
     all.insert(all.begin() + 1, {repetitions.data(), interleaving.data()});

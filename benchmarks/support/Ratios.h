@@ -19,6 +19,12 @@ struct Ratio {
 /// Runs the registered benchmarks, several repetitions of each in random order unless the arguments
 /// say otherwise, and prints the ratios of their least processor times. Gives the exit status: 0
 /// also where a bar is missed, since a busy machine may be the reason.
+///
+/// Memory that a repetition gives back stays with the process, so that the next one finds it again:
+/// the first use of a page costs what the kernel and the machine make of it, from a tenth of
+/// a microsecond to more than ten under some hypervisors, and whether a repetition has to pay
+/// for it would hang on what was freed before. With `--fresh-memory` the allocator does as it
+/// likes.
 int RunAndPrintRatios(int argumentCount, char** arguments, const std::vector<Ratio>& ratios);
 
 } // namespace FluidBenchBenchmark
