@@ -1,14 +1,17 @@
 // Writing and reading black-oil files of a million rows, against loops that only format or parse
 // the same cells: std::to_chars with block writes, std::getline with std::from_chars. What plain
 // stream insertion and atof take is told next to them.
+#include "Baselines.h"
 #include "Ratios.h"
 #include "Scratch.h"
+#include "Usage.h"
 #include "io/BlackOilExportFileWriter.h"
 
 #include <benchmark/benchmark.h>
 
 #include <array>
 #include <charconv>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -29,6 +32,7 @@ using Orv::FluidBench::Model::BlackOilTable;
 
 constexpr std::int64_t smallSize = 100'000;
 constexpr std::int64_t fullSize = 1'000'000;
+constexpr std::int64_t largeSize = 10'000'000;
 constexpr std::int64_t rowsPerRecord = 10;
 constexpr int decimals = 8;
 
@@ -151,15 +155,19 @@ std::string FileToRead(std::int64_t rows) {
     return file;
 }
 
+void ReadFile(std::int64_t rows) {
+    const BlackOilTable table = BlackOilExportFileWriter().GetTableFromCSVFile(FileToRead(rows));
+    const auto records = static_cast<std::uint64_t>(rows / rowsPerRecord / 2);
+    if (table.GetLiveOilData().GetTableSize() != records ||
+        table.GetWetGasData().GetTableSize() != records) {
+        throw std::runtime_error("The file wasn't read whole");
+    }
+}
+
 void Read(benchmark::State& state) {
-    const std::string file = FileToRead(state.range(0));
+    FileToRead(state.range(0));
     for (auto _ : state) {
-        const BlackOilTable table = BlackOilExportFileWriter().GetTableFromCSVFile(file);
-        const auto records = static_cast<std::uint64_t>(state.range(0) / rowsPerRecord / 2);
-        if (table.GetLiveOilData().GetTableSize() != records ||
-            table.GetWetGasData().GetTableSize() != records) {
-            throw std::runtime_error("The file wasn't read whole");
-        }
+        ReadFile(state.range(0));
     }
 }
 
@@ -194,27 +202,63 @@ void Atof(benchmark::State& state) {
     ReadLines(state, [](const char* begin, const char*) { return std::atof(begin); });
 }
 
+std::string KeywordFile() {
+    std::string file = ScratchFolder() / "keywords";
+    Export(SampleOf(fullSize), file, keywords);
+    return file;
+}
+
+void Copy(benchmark::State& state) {
+    FluidBenchBenchmark::CopyBytes(state,
+                                   state.range(0) == csv ? FileToRead(fullSize) : KeywordFile());
+}
+
+// What a process of its own has in memory for reading alone, beside what it begins with.
+void PrintMemory(std::int64_t rows) {
+    FluidBenchBenchmark::UsageOf([=] { FileToRead(rows); });
+    const std::int64_t nothing = FluidBenchBenchmark::UsageOf([] {}).peakMemory;
+    const std::int64_t reading =
+        FluidBenchBenchmark::UsageOf([=] { ReadFile(rows); }).peakMemory - nothing;
+    const auto size = std::filesystem::file_size(FileToRead(rows));
+    std::printf("%-60s %6.0f MB, %.2f of the file\n",
+                ("peak memory of reading " + std::to_string(rows) + " rows of CSV").c_str(),
+                static_cast<double>(reading) * 1e-6,
+                static_cast<double>(reading) / static_cast<double>(size));
+}
+
 BENCHMARK(Write)
     ->Unit(benchmark::kMillisecond)
-    ->ArgsProduct({{smallSize, fullSize}, {keywords, csv}});
+    ->ArgsProduct({{smallSize, fullSize, largeSize}, {keywords, csv}});
 BENCHMARK(ToChars)->Unit(benchmark::kMillisecond)->Arg(keywords)->Arg(csv);
 BENCHMARK(StreamInsertion)->Unit(benchmark::kMillisecond)->Arg(keywords)->Arg(csv);
-BENCHMARK(Read)->Unit(benchmark::kMillisecond)->Arg(smallSize)->Arg(fullSize);
+BENCHMARK(Read)->Unit(benchmark::kMillisecond)->Arg(smallSize)->Arg(fullSize)->Arg(largeSize);
+BENCHMARK(Copy)->Unit(benchmark::kMillisecond)->Arg(keywords)->Arg(csv);
 BENCHMARK(FromChars)->Unit(benchmark::kMillisecond);
 BENCHMARK(Atof)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
 int main(int argumentCount, char** arguments) {
+    ScratchFolder();
+    PrintMemory(smallSize);
+    PrintMemory(fullSize);
+    PrintMemory(largeSize);
     return FluidBenchBenchmark::RunAndPrintRatios(
         argumentCount, arguments,
-        {{"writing keywords : to_chars and block writes", "Write/1000000/0", "ToChars/0", 1.5},
-         {"writing CSV : to_chars and block writes", "Write/1000000/1", "ToChars/1", 1.5},
-         {"reading CSV : getline and from_chars", "Read/1000000", "FromChars", 2.0},
+        {{"writing keywords : to_chars and block writes", "Write/1000000/0", "ToChars/0", 0.65},
+         {"writing CSV : to_chars and block writes", "Write/1000000/1", "ToChars/1", 0.65},
+         {"reading CSV : getline and from_chars", "Read/1000000", "FromChars", 1.0},
          {"growth of writing keywords, 100,000 to 1,000,000 rows", "Write/1000000/0",
-          "Write/100000/0", 13.0},
-         {"growth of writing CSV", "Write/1000000/1", "Write/100000/1", 13.0},
-         {"growth of reading", "Read/1000000", "Read/100000", 13.0},
+          "Write/100000/0", 11.5},
+         {"growth of writing CSV", "Write/1000000/1", "Write/100000/1", 11.5},
+         {"growth of reading", "Read/1000000", "Read/100000", 11.5},
+         {"growth of writing keywords, 1,000,000 to 10,000,000 rows", "Write/10000000/0",
+          "Write/1000000/0", 11.5},
+         {"growth of writing CSV", "Write/10000000/1", "Write/1000000/1", 11.5},
+         {"growth of reading", "Read/10000000", "Read/1000000", 11.5},
+         {"writing keywords : memcpy of the bytes", "Write/1000000/0", "Copy/0", 0.0},
+         {"writing CSV : memcpy of the bytes", "Write/1000000/1", "Copy/1", 0.0},
+         {"reading CSV : memcpy of the bytes", "Read/1000000", "Copy/1", 0.0},
          {"plain insertion of keyword cells : writing keywords", "StreamInsertion/0",
           "Write/1000000/0", 0.0},
          {"plain insertion of CSV cells : writing CSV", "StreamInsertion/1", "Write/1000000/1",

@@ -1,10 +1,14 @@
-// Reading keyword files of a million rows, against loops that read the same lines by std::getline
-// and the same numbers by std::from_chars and keep nothing; and the memory that it takes, as a
-// multiple of the file.
+// Reading keyword files of a million rows, or of K-values with two million numbers, against loops
+// that read the same lines by std::getline and the same numbers by std::from_chars and keep
+// nothing; and the memory that it takes, as a multiple of the file.
+#include "Baselines.h"
 #include "Ratios.h"
 #include "Scratch.h"
+#include "Usage.h"
 #include "io/BlackOilExportFileWriter.h"
 #include "io/BlackOilKeywordReader.h"
+#include "io/KValuesExportFileWriter.h"
+#include "io/KValuesKeywordReader.h"
 
 #include <benchmark/benchmark.h>
 
@@ -12,29 +16,31 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 namespace {
 
 using FluidBenchBenchmark::ScratchFolder;
+using FluidBenchBenchmark::UsageOf;
 using Orv::FluidBench::Common::ErrorReport;
 using Orv::FluidBench::Common::Units;
 using Orv::FluidBench::IO::BlackOilExportFileWriter;
 using Orv::FluidBench::IO::BlackOilKeywordReader;
+using Orv::FluidBench::IO::KValuesExportFileWriter;
+using Orv::FluidBench::IO::KValuesKeywordReader;
 using Orv::FluidBench::Model::BlackOilDataRecords;
 using Orv::FluidBench::Model::BlackOilTable;
+using Orv::FluidBench::Model::KValuesTable;
 
 constexpr int rows = 1'000'000;
 constexpr int rowsPerRecord = 10;
 
-enum Table : std::int64_t { oil, gas, tables };
+constexpr int records = 100'000; // of K-values
+constexpr int components = 20;
+
+enum Table : std::int64_t { oil, gas, kValues, tables };
 
 std::string FileOf(std::int64_t table) {
     return ScratchFolder() / ("table-" + std::to_string(table));
@@ -70,13 +76,38 @@ void WriteBlackOil(Table table) {
                  .HasErrors());
 }
 
+void WriteKValues() {
+    std::vector<std::string> names;
+    for (int i = 0; i < components; ++i) {
+        names.push_back("C" + std::to_string(i + 1));
+    }
+    KValuesTable table(std::move(names));
+    for (int i = 0; i < records; ++i) {
+        std::vector<double> record{1e5 + 400.0 * i};
+        for (int j = 0; j < components; ++j) {
+            record.push_back(100.0 / (1.0 + 3.0 * j + 1e-3 * i));
+        }
+        table.AddRecord(std::move(record));
+    }
+    Require(
+        !KValuesExportFileWriter().ExportToFile(table, FileOf(kValues), Units::METRIC).HasErrors());
+}
+
+bool IsWhole(const BlackOilDataRecords& table) {
+    return table.GetTableSize() == rows / rowsPerRecord;
+}
+
 void ReadTable(std::int64_t table) {
+    if (table == kValues) {
+        std::vector<KValuesTable> read;
+        Require(!KValuesKeywordReader().Read(FileOf(table), read).HasErrors() && read.size() == 1 &&
+                read[0].GetTableSize() == records);
+        return;
+    }
     std::vector<BlackOilTable> regions;
     const ErrorReport report = BlackOilKeywordReader().Read(FileOf(table), regions);
-    Require(
-        !report.HasErrors() && regions.size() == 1 &&
-        (table == oil ? regions[0].GetLiveOilData() : regions[0].GetWetGasData()).GetTableSize() ==
-            rows / rowsPerRecord);
+    Require(!report.HasErrors() && regions.size() == 1 &&
+            IsWhole(table == oil ? regions[0].GetLiveOilData() : regions[0].GetWetGasData()));
 }
 
 void Read(benchmark::State& state) {
@@ -109,22 +140,13 @@ void FromChars(benchmark::State& state) {
     }
 }
 
-// Runs the operation in a process of its own and gives the most memory that it had, in bytes.
-std::int64_t PeakMemoryOf(const std::function<void()>& operation) {
-    const pid_t child = fork();
-    if (child == 0) {
-        operation();
-        _exit(0);
-    }
-    int status = 0;
-    rusage usage{};
-    Require(wait4(child, &status, 0, &usage) == child && status == 0);
-    return std::int64_t{usage.ru_maxrss} * 1024;
+void Copy(benchmark::State& state) {
+    FluidBenchBenchmark::CopyBytes(state, FileOf(state.range(0)));
 }
 
 void PrintMemory(std::int64_t table, const char* name) {
-    const std::int64_t nothing = PeakMemoryOf([] {});
-    const std::int64_t reading = PeakMemoryOf([=] { ReadTable(table); });
+    const std::int64_t nothing = UsageOf([] {}).peakMemory;
+    const std::int64_t reading = UsageOf([=] { ReadTable(table); }).peakMemory;
     const auto size = static_cast<double>(std::filesystem::file_size(FileOf(table)));
     std::printf("memory for reading %s : file of %.0f MB  %.2f, at most 3.0\n", name, size / 1e6,
                 static_cast<double>(reading - nothing) / size);
@@ -132,18 +154,26 @@ void PrintMemory(std::int64_t table, const char* name) {
 
 BENCHMARK(Read)->Unit(benchmark::kMillisecond)->DenseRange(0, tables - 1);
 BENCHMARK(FromChars)->Unit(benchmark::kMillisecond)->DenseRange(0, tables - 1);
+BENCHMARK(Copy)->Unit(benchmark::kMillisecond)->DenseRange(0, tables - 1);
 
 } // namespace
 
 int main(int argumentCount, char** arguments) {
     ScratchFolder();
-    for (const Table table : {oil, gas}) {
-        PeakMemoryOf([=] { WriteBlackOil(table); });
-    }
+    UsageOf([] {
+        WriteBlackOil(oil);
+        WriteBlackOil(gas);
+        WriteKValues();
+    });
     PrintMemory(oil, "PVTO");
     PrintMemory(gas, "PVTG");
+    PrintMemory(kValues, "KVTABLE");
     return FluidBenchBenchmark::RunAndPrintRatios(
         argumentCount, arguments,
         {{"reading PVTO : getline and from_chars", "Read/0", "FromChars/0", 1.5},
-         {"reading PVTG : getline and from_chars", "Read/1", "FromChars/1", 1.5}});
+         {"reading PVTG : getline and from_chars", "Read/1", "FromChars/1", 1.5},
+         {"reading KVTABLE : getline and from_chars", "Read/2", "FromChars/2", 1.5},
+         {"reading PVTO : memcpy of the bytes", "Read/0", "Copy/0", 0.0},
+         {"reading PVTG : memcpy of the bytes", "Read/1", "Copy/1", 0.0},
+         {"reading KVTABLE : memcpy of the bytes", "Read/2", "Copy/2", 0.0}});
 }

@@ -50,7 +50,7 @@ void Print(const Ratio& ratio, const LeastTimes& times) {
     }
     const double value = measured / baseline;
     if (ratio.bar > 0.0) {
-        std::printf("%-60s %6.2f  (at most %.1f%s)\n", ratio.meaning.c_str(), value, ratio.bar,
+        std::printf("%-60s %6.2f  (at most %.2f%s)\n", ratio.meaning.c_str(), value, ratio.bar,
                     value <= ratio.bar ? "" : ", MISSED");
     } else {
         std::printf("%-60s %6.2f\n", ratio.meaning.c_str(), value);

@@ -30,6 +30,12 @@ std::size_t Require(std::optional<std::size_t> index, const std::string& name) {
     return *index;
 }
 
+// Names of components begin alike more often than they end alike.
+bool IsSame(const std::string& first, const std::string& second) noexcept {
+    return first.size() == second.size() &&
+           (first.empty() || (first.back() == second.back() && first == second));
+}
+
 std::size_t PlaceInTriangle(std::size_t first, std::size_t second) noexcept {
     const auto [column, row] = std::minmax(first, second);
     return row * (row - 1) / 2 + column;
@@ -112,7 +118,7 @@ std::size_t CompositionalFluidCommand::FindNear(Hint& hint,
                                                 const std::string& componentName) const {
     const std::size_t last = hint.Place();
     for (std::size_t place = last; place < components_.size() && place <= last + 1; ++place) {
-        if (components_[place].component.GetName() == componentName) {
+        if (IsSame(components_[place].component.GetName(), componentName)) {
             hint.MoveTo(place);
             return place;
         }

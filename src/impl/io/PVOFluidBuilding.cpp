@@ -208,10 +208,14 @@ void SetModels(const PVOCompositionalModelAdaptor& model, CompositionalFluid& fl
 void SetCoefficients(const PVOCompositionalModelAdaptor& model, CompositionalFluid& fluid) {
     const auto& coefficients = model.getBinaryInteractionCoefficients();
     const int n = model.getNumComponents();
+    std::vector<std::string> names;
     for (int i = 0; i < n; ++i) {
-        const std::string& first = model.getComponent(i).getName();
+        names.push_back(model.getComponent(i).getName());
+    }
+    for (int i = 0; i < n; ++i) {
         for (int j = i + 1; j < n; ++j) {
-            fluid.SetBIC(first, model.getComponent(j).getName(), coefficients.get(i, j));
+            fluid.SetBIC(names[static_cast<std::size_t>(i)], names[static_cast<std::size_t>(j)],
+                         coefficients.get(i, j));
         }
     }
 }
