@@ -34,10 +34,10 @@ using Orv::FluidBench::Model::BlackOilDataRecords;
 using Orv::FluidBench::Model::BlackOilTable;
 using Orv::FluidBench::Model::KValuesTable;
 
-constexpr int rows = 1'000'000;
+constexpr int blackOilRows = 1'000'000;
 constexpr int rowsPerRecord = 10;
 
-constexpr int records = 100'000; // of K-values
+constexpr int kValueRecords = 100'000;
 constexpr int components = 20;
 
 enum Table : std::int64_t { oil, gas, kValues, tables };
@@ -55,7 +55,7 @@ void Require(bool isTrue) {
 void WriteBlackOil(Table table) {
     BlackOilDataRecords records;
     std::vector<BlackOilDataRecords::Entry> record(rowsPerRecord);
-    for (int i = 0; i < rows / rowsPerRecord; ++i) {
+    for (int i = 0; i < blackOilRows / rowsPerRecord; ++i) {
         const double rise = 1e-3 * i;
         for (int j = 0; j < rowsPerRecord; ++j) {
             const double pressure = (20.0 + rise + (table == oil ? 7.0 * j : 0.0)) * 1e5;
@@ -82,7 +82,7 @@ void WriteKValues() {
         names.push_back("C" + std::to_string(i + 1));
     }
     KValuesTable table(std::move(names));
-    for (int i = 0; i < records; ++i) {
+    for (int i = 0; i < kValueRecords; ++i) {
         std::vector<double> record{1e5 + 400.0 * i};
         for (int j = 0; j < components; ++j) {
             record.push_back(100.0 / (1.0 + 3.0 * j + 1e-3 * i));
@@ -94,14 +94,14 @@ void WriteKValues() {
 }
 
 bool IsWhole(const BlackOilDataRecords& table) {
-    return table.GetTableSize() == rows / rowsPerRecord;
+    return table.GetTableSize() == blackOilRows / rowsPerRecord;
 }
 
 void ReadTable(std::int64_t table) {
     if (table == kValues) {
         std::vector<KValuesTable> read;
         Require(!KValuesKeywordReader().Read(FileOf(table), read).HasErrors() && read.size() == 1 &&
-                read[0].GetTableSize() == records);
+                read[0].GetTableSize() == kValueRecords);
         return;
     }
     std::vector<BlackOilTable> regions;

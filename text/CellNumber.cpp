@@ -2,30 +2,13 @@
 
 #include "Characters.h"
 #include "NumberText.h"
+#include "PlainDecimal.h"
 
 #include <charconv>
 #include <cmath>
-#include <cstddef>
 #include <system_error>
 
 namespace Orv::Text {
-
-namespace {
-
-// Digits with a decimal point at the most, and too few of them for an infinity: what nearly every
-// cell holds, told without reading the number.
-bool IsPlainDecimal(std::string_view text) noexcept {
-    constexpr std::size_t finiteDigits = 300;
-    std::size_t digits = 0;
-    std::size_t points = 0;
-    for (const char c : text) {
-        digits += IsDigit(c) ? 1 : 0;
-        points += c == '.' ? 1 : 0;
-    }
-    return digits > 0 && points <= 1 && digits + points == text.size() && digits <= finiteDigits;
-}
-
-} // namespace
 
 CellContent LookAtCell(std::string_view cell) noexcept {
     std::string_view text = WithoutBlanks(cell);
@@ -35,14 +18,14 @@ CellContent LookAtCell(std::string_view cell) noexcept {
     if (text[0] == '+' || text[0] == '-') {
         text.remove_prefix(1);
     }
-    if (IsPlainDecimal(text)) {
+    double number = 0.0;
+    const char* const end = text.data() + text.size();
+    if (ReadPlainDecimal(text.data(), end, number) == end) { // as nearly every cell
         return CellContent::Number;
     }
     if (text.starts_with("0x") || text.starts_with("0X")) {
         return CellContent::Hexadecimal;
     }
-    double number = 0.0;
-    const char* const end = text.data() + text.size();
     const auto [behind, error] = std::from_chars(text.data(), end, number);
     const bool hasSecondSign = text.starts_with('-');
     if (error == std::errc::invalid_argument || hasSecondSign) {

@@ -131,7 +131,7 @@ py::tuple ReadKeywordFile(const py::object& source, const py::str& name, const s
     return findings.With(regions);
 }
 
-// The tables of a file, as "live-wet" and its like name them.
+// "live" or "dead" oil, and "wet" or "dry" gas.
 Writer::EXPORT_TYPE TablesFromPython(const std::string& oil, const std::string& gas) {
     return oil == "live" ? (gas == "wet" ? Writer::LIVE_OIL_WET_GAS : Writer::LIVE_OIL_DRY_GAS)
                          : (gas == "wet" ? Writer::DEAD_OIL_WET_GAS : Writer::DEAD_OIL_DRY_GAS);

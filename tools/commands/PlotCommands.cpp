@@ -235,11 +235,20 @@ struct DepthPanels {
     Panel composition;
 };
 
-void AddCurves(DepthPanels& panels, const DepthRun& run, bool field, std::size_t file) {
-    const ShownUnit depth = field ? ShownUnit{"ft", Units::Depth_m_to_ft} : ShownUnit{"m"};
-    const ShownUnit pressure = OilUnits(field).pressure;
-    const ShownUnit ratio =
-        field ? ShownUnit{"Mscf/stb", Units::GOR_m3m3_To_Mscfstb} : ShownUnit{"m3/m3"};
+struct DepthUnits {
+    ShownUnit depth;
+    ShownUnit pressure;
+    ShownUnit ratio;
+};
+
+DepthUnits DepthUnitsOf(bool field) {
+    return {field ? ShownUnit{"ft", Units::Depth_m_to_ft} : ShownUnit{"m"},
+            OilUnits(field).pressure,
+            field ? ShownUnit{"Mscf/stb", Units::GOR_m3m3_To_Mscfstb} : ShownUnit{"m3/m3"}};
+}
+
+void AddCurves(DepthPanels& panels, const DepthRun& run, const DepthUnits& units,
+               std::size_t file) {
     // By depth: the contact has its place between gas and oil.
     std::vector<const Stage*> stages = run.rows;
     std::ranges::stable_sort(stages, {},
@@ -247,15 +256,16 @@ void AddCurves(DepthPanels& panels, const DepthRun& run, bool field, std::size_t
     const auto curve = [&](const char* colour, auto value) {
         Curve made{{colour, 2.0, DashesOf(file)}, false, {}};
         for (const Stage* const stage : stages) {
-            made.points.push_back({value(*stage), depth.convert(stage->Results->Depth.GetValue())});
+            made.points.push_back(
+                {value(*stage), units.depth.convert(stage->Results->Depth.GetValue())});
         }
         return made;
     };
     panels.saturation.curves.push_back(curve(ColourOf(0), [&](const Stage& s) {
-        return pressure.convert(s.Results->SaturationPressure.GetValue());
+        return units.pressure.convert(s.Results->SaturationPressure.GetValue());
     }));
     panels.ratio.curves.push_back(curve(ColourOf(0), [&](const Stage& s) {
-        return ratio.convert(s.Results->GasOilRatio.GetValue());
+        return units.ratio.convert(s.Results->GasOilRatio.GetValue());
     }));
     for (std::size_t i = 0; i < run.components.size(); ++i) {
         panels.composition.curves.push_back(curve(ColourOf(i), [&](const Stage& s) {
@@ -264,15 +274,15 @@ void AddCurves(DepthPanels& panels, const DepthRun& run, bool field, std::size_t
     }
     if (const auto& contact = run.results.ContactStage.Results->Depth; contact.IsSet) {
         for (Panel* const panel : {&panels.saturation, &panels.ratio, &panels.composition}) {
-            panel->levels.push_back({depth.convert(contact.GetValue()), "contact"});
+            panel->levels.push_back({units.depth.convert(contact.GetValue()), "contact"});
         }
     }
 }
 
-DepthPanels EmptyDepthPanels(bool field) {
-    const Axis depth{.label = field ? "Depth (ft)" : "Depth (m)", .isDownward = true};
-    const Axis pressure{.label = OilUnits(field).pressure.name};
-    const Axis ratio{.label = field ? "Mscf/stb" : "m3/m3", .kind = AxisKind::Logarithmic};
+DepthPanels EmptyDepthPanels(const DepthUnits& units) {
+    const Axis depth{.label = Named("Depth", units.depth), .isDownward = true};
+    const Axis pressure{.label = units.pressure.name};
+    const Axis ratio{.label = units.ratio.name, .kind = AxisKind::Logarithmic};
     return {{"Saturation pressure", pressure, depth, {}},
             {"Gas-oil ratio", ratio, depth, {}},
             {"Composition", {.label = "mole fraction"}, depth, {}}};
@@ -282,14 +292,14 @@ DepthPanels EmptyDepthPanels(bool field) {
 
 void PlotDepth(Call& call) {
     RequirePicture(call);
-    const bool field = IsField(call, Options::showUnits);
-    DepthPanels panels = EmptyDepthPanels(field);
+    const DepthUnits units = DepthUnitsOf(IsField(call, Options::showUnits));
+    DepthPanels panels = EmptyDepthPanels(units);
     std::vector<std::string> components;
     std::vector<LegendEntry> files;
     ForEachPlotted(call, [&](Input& input, const std::string& file) {
         DepthRun run;
         ReadDepthRun(input, call, run);
-        AddCurves(panels, run, field, files.size());
+        AddCurves(panels, run, units, files.size());
         files.push_back({{"#555555", 2.0, DashesOf(files.size())}, false, LegendName(file)});
         components = run.components.size() > components.size() ? run.components : components;
     });
