@@ -374,6 +374,7 @@ TEST_F(DeckImportTest, KnowsEachKeywordByItsSpelling) {
 // Whatever stands ahead of a line, it means the same.
 TEST_F(DeckImportTest, TakesALineAlikeInEveryPlace) {
     folder.Write("mw.inc", "ACF\n0 0.1 /\n");
+    folder.Write("mws.inc", "47 49 /\n");
     std::filesystem::create_directory(folder.Path() / "sub");
     folder.Write("sub/mw.inc", "ACF\n0 0.1 /\n");
     struct Case {
@@ -405,6 +406,24 @@ TEST_F(DeckImportTest, TakesALineAlikeInEveryPlace) {
         {"EOS\nPR /\nSRK /\n", "3:further-records"},
         {"BIC\n0.1 /\n0.2 /\n0.3 /\n", "3:further-records"},
         {"MWS\n46 48 /\n46\n48 /\n", "3:further-records"},
+        {"EOS\nPR / SRK /\n", "2:further-records"},
+        {"EOS\nPR\n/\nSRK\n/\n", "4:further-records"},
+        {"EOS\npr /\nsrk /\n", "3:further-records"},
+        {"EOS\nPR /\nPR78 /\n", "3:further-records"},
+        {"MWS\n46 48 / 47 49 /\n", "2:further-records"},
+        {"MWS\n46 48 / 2 of them\n", ""},
+        {"MWS\n46 48 /\nSKIP /\nMW\n1 /\nENDSKIP /\n47 49 /\n", "7:further-records"},
+        {"(ACF)\n1 2 /\n", "1:did-you-mean"},
+        {"\"ACF\n1 2 /\n", "1:did-you-mean"},
+        {"- ACF\n1 2 /\n", "1:did-you-mean"},
+        {"Mw and Tc from the lab\nmw in lb/lbmole\nComps: three\n", ""},
+        {"RPTPROPS\n'MW' 'TCRIT' /\nSPECHEAT\n1 /\nTCRITW\n1 /\n", ""},
+        {"TITLE\nACF\n0 0.1 /\n", "2:text-behind"},
+        {"EOS\nPR / PRCORR,\n", "2:text-behind"},
+        {"EOS\nPR / 'PRCORR'\n", "2:text-behind"},
+        {"EOS\nPR // PRCORR\n", "2:text-behind"},
+        {"EOS\nPR / -PRCORR\n", "2:text-behind"},
+        {"EOS\nPR / prcorr\n", "2:text-behind"},
         {"PROPS  fluid and rock\n", "1:section-ignored"},
         {"Props\n", "1:section-ignored"},
         {"EOS\nSRK /\nEOS\nPR /\n", "3:second-time"},
@@ -439,6 +458,7 @@ TEST_F(DeckImportTest, TakesALineAlikeInEveryPlace) {
             }
         }
     }
+    EXPECT_EQ(ReadText("MWS\n46 48 /\nINCLUDE 'mws.inc' /\n" + sound).told, "1:further-records");
 }
 
 // What is told of a deck as a whole, and which values it has all the same.

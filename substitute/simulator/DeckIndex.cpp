@@ -128,7 +128,7 @@ private:
     static void RequireData(const KeywordPlace& place, const WantedKeyword& wanted,
                             const Token& first);
     static std::size_t ReadWordOf(const KeywordPlace& place, const WantedKeyword& wanted);
-    static Record ReadRestOfDataLine(KeywordLexer& deck);
+    static Record ReadRestOfDataLine(KeywordLexer& deck, Token token);
     bool SkipRecord(KeywordLexer& deck, std::uint64_t opened, bool isFirm);
     void PassRestOfLine(KeywordLexer& deck, const std::string& ahead);
     void PassRestOfLine(KeywordLexer& deck, Token next, const std::string& ahead);
@@ -240,7 +240,7 @@ bool IndexBuilder::IsKnown(const Token& token) const {
 
 void IndexBuilder::ReadKnown(KeywordLexer& deck, const std::string& keyword) {
     if (const Structural* const structural = FindStructural(keyword)) {
-        TellFurtherRecords();
+        // Records of a keyword may go on in an include, or behind what is skipped.
         (this->*structural->read)(deck);
     } else if (const Section* const section = FindSection(keyword)) {
         ReadSection(deck, *section);
@@ -257,16 +257,41 @@ void IndexBuilder::ReadKnown(KeywordLexer& deck, const std::string& keyword) {
 }
 
 void IndexBuilder::ReadTitle(KeywordLexer& deck) {
-    if (deck.Next().kind == Kind::LineEnd) {
-        deck.SkipCommentLines();
-    }
-    deck.SkipLine();
+    TellFurtherRecords();
     behind_ = Behind::Text;
     isBehindTitle_ = true;
+    if (deck.Next().kind != Kind::LineEnd) {
+        deck.SkipLine();
+        return;
+    }
+    deck.SkipCommentLines();
+    const FilePlace place = PlaceOf(deck);
+    const Token title = deck.Next();
+    if (EndsLine(title)) {
+        return;
+    }
+    const bool isKeyword =
+        MayHoldFluidData() && IsInCapitals(title) && vocabulary_.find(title.text);
+    const std::string keyword = isKeyword ? std::string(title.text) : std::string();
+    if (!isKeyword || !EndsLine(deck.Next())) {
+        deck.SkipLine();
+        return;
+    }
+    const Token below = deck.Next();
+    if (below.kind == Kind::FileEnd) {
+        return;
+    }
+    if (IsData(below)) {
+        log_.Tell(Problems::textBehind, place,
+                  keyword + " isn't taken for the keyword because it is the line of text behind "
+                            "TITLE: put a line of text ahead of it.");
+    }
+    ReadLine(deck, below);
 }
 
 // What stands behind END isn't read. "END of the deck" is text.
 void IndexBuilder::ReadEnd(KeywordLexer& deck) {
+    TellFurtherRecords();
     const Token next = deck.Next();
     hasEnded_ = EndsLine(next) || next.kind == Kind::Slash;
     if (!hasEnded_) {
@@ -278,10 +303,13 @@ void IndexBuilder::ReadEnd(KeywordLexer& deck) {
 // Everything up to ENDSKIP is put out of force.
 void IndexBuilder::ReadSkip(KeywordLexer& deck) {
     const FilePlace opened = PlaceOf(deck);
-    if (!EndsLine(deck.Next())) {
+    const Token next = deck.Next();
+    if (!EndsLine(next)) {
         deck.SkipLine();
-        behind_ = Behind::Text;
-        return;
+        if (next.kind != Kind::Slash) {
+            behind_ = Behind::Text;
+            return;
+        }
     }
     for (;;) {
         const Token first = deck.Next();
@@ -335,14 +363,14 @@ void IndexBuilder::ReadWanted(KeywordLexer& deck, const std::string& keyword,
         next = deck.Next();
     }
     RequireData(place, wanted, next);
+    behind_ = Behind::Ended;
+    further_ = {keyword, wanted, 0, {}};
     if (next.kind == Kind::Slash || wanted.data == KeywordData::None) {
         PassRestOfLine(deck, next, keyword);
     } else {
         constexpr bool isFirm = true;
         SkipRecord(deck, place.line.line, isFirm);
     }
-    behind_ = Behind::Ended;
-    further_ = {keyword, wanted, 0, {}};
     Remember(std::move(place), wanted);
 }
 
@@ -379,7 +407,7 @@ void IndexBuilder::ReadUnknown(KeywordLexer& deck, const std::string& keyword) {
     if (next.kind == Kind::Slash) {
         PassRestOfLine(deck, next, keyword);
     } else if (IsData(next)) {
-        record = ReadRestOfDataLine(deck);
+        record = ReadRestOfDataLine(deck, deck.Next());
     } else if (!EndsLine(next)) {
         deck.SkipLine();
         record = Record::None;
@@ -399,10 +427,18 @@ void IndexBuilder::ReadUnknown(KeywordLexer& deck, const std::string& keyword) {
 
 void IndexBuilder::ReadData(KeywordLexer& deck, const Token& first) {
     const FilePlace place = PlaceOf(deck);
+    Token next;
     if (first.kind == Kind::Quoted) {
-        Suspect(MayBeKeyword(first), true, place, {Kind::LineEnd, {}, false});
+        // Among other quoted texts it is one of a list.
+        const std::string word = MayBeKeyword(first);
+        next = deck.Next();
+        if (next.kind != Kind::Quoted) {
+            Suspect(word, true, place, {Kind::LineEnd, {}, false});
+        }
+    } else {
+        next = deck.Next();
     }
-    const Record record = ReadRestOfDataLine(deck);
+    const Record record = ReadRestOfDataLine(deck, next);
     if (record == Record::None) {
         behind_ = Behind::Text;
         return;
@@ -416,9 +452,20 @@ void IndexBuilder::ReadData(KeywordLexer& deck, const Token& first) {
 
 void IndexBuilder::ReadText(KeywordLexer& deck, const Token& first) {
     const FilePlace place = PlaceOf(deck);
-    const std::string word = MayBeKeyword(first);
-    const Token next = deck.Next();
-    Suspect(word, false, place, next);
+    std::string word = MayBeKeyword(first);
+    bool isDecorated = false;
+    Token next = deck.Next();
+    if (IsFurtherWord(Text::Capitals(word), next)) {
+        CountFurtherRecord(place);
+        PassRestOfLine(deck, next, word);
+        return;
+    }
+    if (BareKeyword(word).empty() && IsInCapitals(next)) { // "- MW"
+        word = next.text;
+        next = deck.Next();
+        isDecorated = true;
+    }
+    Suspect(word, isDecorated, place, next);
     if (!EndsLine(next)) {
         deck.SkipLine();
     }
@@ -427,9 +474,8 @@ void IndexBuilder::ReadText(KeywordLexer& deck, const Token& first) {
 
 // Passes the rest of a line of data, up to the end of its record, its own end or the first word
 // that isn't data. A slash and such a word take the rest of the line with them.
-IndexBuilder::Record IndexBuilder::ReadRestOfDataLine(KeywordLexer& deck) {
-    for (;;) {
-        const Token token = deck.Next();
+IndexBuilder::Record IndexBuilder::ReadRestOfDataLine(KeywordLexer& deck, Token token) {
+    for (;; token = deck.Next()) {
         if (EndsLine(token)) {
             return Record::Open;
         }
@@ -482,13 +528,31 @@ void IndexBuilder::PassRestOfLine(KeywordLexer& deck, const std::string& ahead) 
 // What stands behind a slash, or behind a keyword without data, doesn't count.
 void IndexBuilder::PassRestOfLine(KeywordLexer& deck, Token next, const std::string& ahead) {
     const FilePlace place = PlaceOf(deck);
-    if (next.kind == Kind::Slash) {
+    while (next.kind == Kind::Slash) {
         next = deck.Next();
     }
-    if (MayHoldFluidData() && IsInCapitals(next) && vocabulary_.find(next.text)) {
+    if (EndsLine(next)) {
+        return;
+    }
+    if (IsData(next) && next.kind == Kind::Word) {
+        if (ReadRestOfDataLine(deck, next) == Record::Closed) {
+            CountFurtherRecord(place);
+        }
+        return;
+    }
+    const std::string word = MayBeKeyword(next);
+    const std::string bare = BareKeyword(word);
+    const std::optional<WantedKeyword> wanted = vocabulary_.find(bare);
+    // Words in small letters are text, unless they can only belong to the record ahead.
+    const bool isMeant =
+        std::ranges::none_of(word, IsSmallLetter) ||
+        (wanted && wanted->data == KeywordData::None && further_.wanted.data == KeywordData::Word);
+    next = deck.Next();
+    if (IsFurtherWord(Text::Capitals(word), next)) {
+        CountFurtherRecord(place);
+    } else if (MayHoldFluidData() && isMeant && wanted) {
         log_.Tell(Problems::textBehind, place,
-                  std::string(next.text) +
-                      " isn't taken for the keyword because it stands behind " + ahead +
+                  bare + " isn't taken for the keyword because it stands behind " + ahead +
                       ": put it on a line of its own.");
     }
     if (!EndsLine(next)) {
@@ -596,12 +660,18 @@ void IndexBuilder::Remember(KeywordPlace place, const WantedKeyword& wanted) {
 
 // Further records of words can't be told from keywords by their looks.
 bool IndexBuilder::IsFurtherWord(const std::string& word, const Token& next) const {
-    const bool isWord =
-        further_.wanted.data == KeywordData::Word && next.kind == Kind::Slash &&
-        std::ranges::find(further_.wanted.words, word) != std::ranges::end(further_.wanted.words);
-    const bool isRowOfNames = further_.wanted.data == KeywordData::Names &&
-                              behind_ == Behind::Ended && next.kind == Kind::Word && !IsData(next);
-    return !further_.keyword.empty() && (isWord || isRowOfNames);
+    const WantedKeyword& wanted = further_.wanted;
+    if (further_.keyword.empty() || behind_ != Behind::Ended) {
+        return false;
+    }
+    const bool isWord = wanted.data == KeywordData::Word &&
+                        (next.kind == Kind::Slash || EndsLine(next)) &&
+                        (std::ranges::find(wanted.words, word) != std::ranges::end(wanted.words) ||
+                         (wanted.advise != nullptr && !wanted.advise(word).empty()));
+    // The names of components have digits, and words of another keyword hardly ever.
+    const bool isRowOfNames = wanted.data == KeywordData::Names && next.kind == Kind::Word &&
+                              !IsData(next) && std::ranges::any_of(word, IsDigit);
+    return isWord || isRowOfNames;
 }
 
 void IndexBuilder::CountFurtherRecord(const FilePlace& place) {
@@ -646,9 +716,11 @@ void IndexBuilder::Suspect(const std::string& word, bool isQuoted, const FilePla
     const bool isWanted = vocabulary_.find(bare).has_value();
     const bool isSection = FindSection(bare) != nullptr;
     const bool isInSmallLetters = std::ranges::any_of(word, IsSmallLetter);
+    if (isInSmallLetters && !SuitsKeyword(next)) {
+        return; // words in small letters are text, unless a keyword's data follow
+    }
+    const bool isDoubtful = isQuoted;
     const bool isBare = !isQuoted && word.size() == bare.size();
-    // Words in small letters are text, unless a keyword's data follow.
-    const bool isDoubtful = (isInSmallLetters && !SuitsKeyword(next)) || isQuoted;
     const bool differsInLetters =
         isBare && isInSmallLetters &&
         (isWanted ? MayHoldFluidData()

@@ -40,7 +40,7 @@ constexpr CheckedProperty properties[] = {
 };
 // clang-format on
 
-constexpr double tolerance = 0.001; // of a sum of fractions
+constexpr double tolerance = 0.001 + 1e-9; // of a sum of fractions, with what rounding adds
 
 const KeywordPlace* FindPlace(const DeckIndex& index, std::string_view keyword) {
     const auto found = std::ranges::find(index.Keywords(), keyword, &KeywordPlace::keyword);

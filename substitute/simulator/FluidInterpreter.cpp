@@ -25,6 +25,7 @@ using SimFluid::IFluidModels;
 using SimFluid::IInitialCondition;
 using SimFluid::ITemperatureTable;
 using Text::IsDigit;
+using Text::IsLetter;
 using Text::ItemCount;
 using Text::KeywordError;
 using Text::KeywordLexer;
@@ -346,13 +347,25 @@ bool SaysNoComponents(const DeckIndex& index) {
         });
 }
 
-// "C1,C2" and "'C1','C2'" are one name each, which hardly anybody means. "2,2-dimethylbutane" is.
+// "C1,C2", "C1'C2" and "'C1','C2'" are one name each, which hardly anybody means, as are names in
+// quotes that no deck knows. "2,2-dimethylbutane" and "it's" are meant.
 bool LooksJoined(std::string_view name) {
+    for (const std::string_view quote :
+         {"\xE2\x80\x98", "\xE2\x80\x99", "\xE2\x80\x9C", "\xE2\x80\x9D"}) {
+        if (name.starts_with(quote) || name.ends_with(quote)) {
+            return true;
+        }
+    }
+    if (name.find(';') != std::string_view::npos ||
+        name.find("\xC2\xA0") != std::string_view::npos) {
+        return true;
+    }
     const auto isDigitAt = [name](std::size_t i) { return i < name.size() && IsDigit(name[i]); };
     for (std::size_t i = 0; i < name.size(); ++i) {
         const bool isQuote = name[i] == '\'' || name[i] == '"';
         if ((name[i] == ',' && !(i > 0 && isDigitAt(i - 1) && isDigitAt(i + 1))) ||
-            (isQuote && i + 1 < name.size() && name[i + 1] == name[i])) {
+            (isQuote && i + 1 < name.size() &&
+             (name[i + 1] == name[i] || (i > 0 && isDigitAt(i - 1) && IsLetter(name[i + 1]))))) {
             return true;
         }
     }

@@ -17,9 +17,10 @@ constexpr std::size_t mostErrors = 2;
 
 // Keywords that matter to no fluid, as near to those that do as a typing error.
 constexpr std::string_view otherKeywords[] = {
-    "AMFVD",  "COMPL",  "COMPW",  "CVCRIT", "EGRID",  "INSPEC", "LBCCOEFR", "MATRIX",
-    "RGRID",  "RTEMPA", "SPECHC", "SPECHD", "SPECHS", "SPECHT", "STEMP",    "TEMP",
-    "TNAMES", "TTEMP",  "WNAMES", "WTEMP",  "XMFVD",  "YIELD",  "YMFVD"};
+    "ACFW",   "CNAMESW", "LSCRITS", "PCRITW", "RSSPEC", "SPECHEAT", "TCRITW", "VCRITW",
+    "ZCRITW", "AMFVD",   "COMPL",   "COMPW",  "CVCRIT", "EGRID",    "INSPEC", "LBCCOEFR",
+    "MATRIX", "RGRID",   "RTEMPA",  "SPECHC", "SPECHD", "SPECHS",   "SPECHT", "STEMP",
+    "TEMP",   "TNAMES",  "TTEMP",   "WNAMES", "WTEMP",  "XMFVD",    "YIELD",  "YMFVD"};
 
 std::size_t ErrorsAllowed(std::string_view keyword) noexcept {
     return keyword.size() >= 6 ? 2 : keyword.size() >= 4 ? 1 : 0;
@@ -52,6 +53,9 @@ std::size_t ErrorsBetween(std::string_view a, std::string_view b) noexcept {
 
 std::string BareKeyword(std::string_view word) {
     std::string bare;
+    const auto begins =
+        std::ranges::find_if(word, [](char c) { return Text::IsLetter(c) || Text::IsDigit(c); });
+    word.remove_prefix(static_cast<std::size_t>(begins - word.begin()));
     for (const char c : word.substr(0, word.find_first_of("([{<:;=,"))) {
         if (Text::IsLetter(c) || Text::IsDigit(c)) {
             bare += c;
