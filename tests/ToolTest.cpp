@@ -175,6 +175,22 @@ TEST_F(ToolTest, ReadsWhatThereIsAndTellsWhatIsNone) {
                          "reservoir-oil-grid.inc\n");
 }
 
+TEST_F(ToolTest, TellsWhatADeckDoesNotKeepOfAFluid) {
+    const std::string ends = " /\nMW\n2*16 /\nPCRIT\n2*46 /\nTCRIT\n2*190 /\nOMEGAA\n2*0.4 /\n"
+                             "OMEGAB\n2*0.08 /\nZI\n2*0.5 /\n";
+    folder.Write("in.dat", "CNAMES\nC7 'C 7'" + ends);
+    folder.Write("sound.dat", "RTEMP\n100 /\nCNAMES\nC7 \"it's\"" + ends);
+    const Outcome run = Tool("deck convert in.dat out.dat --from-units metric");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.messages,
+              "in.dat: warning: Expected a reservoir temperature, found none: 60 degrees F are "
+              "written. --temperature gives another. [tool.no-temperature]\n"
+              "in.dat: warning: Expected a name that a deck can hold, found 'C 7': in the deck it "
+              "becomes the same as that of 'C7'. [deck.name-changed]\n");
+    EXPECT_EQ(Tool("deck convert sound.dat out.dat --from-units metric").messages, "");
+    EXPECT_TRUE(Contains(ReadFile(folder / "out.dat"), "RTEMP\n--\n100\n/\n"));
+}
+
 TEST_F(ToolTest, TellsWhichRowOfDataIsWrong) {
     const std::pair<const char*, const char*> cases[] = {
         {"components,C1\nrecord,25,1,2\n", "2: error: Expected 2 cells behind 'record', found 3."},

@@ -5,6 +5,7 @@
 #include "NumberText.h"
 #include "Progress.h"
 #include "Shown.h"
+#include "io/DeckNames.h"
 #include "io/PVOFileReader.h"
 #include "io/PVOFileWriter.h"
 
@@ -131,6 +132,10 @@ void Convert(Call& call) {
         call.Told().Tell(ToolKinds::noTemperature, input.Name(),
                          "Expected a reservoir temperature, found none: 60 degrees F are written. "
                          "--temperature gives another.");
+    }
+    for (Diagnostic& change : Orv::FluidBench::IO::NamesThatADeckChanges(file.fluid)) {
+        change.file = input.Name();
+        call.Told().Tell(change);
     }
     const double kelvin = asked.value_or(file.reservoirTemperature.value_or(standardTemperature));
     call.Write(call.Operand(1), [&](std::ostream& out) {
