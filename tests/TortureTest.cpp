@@ -1,5 +1,7 @@
 // Every allocation of an operation fails in turn, and the object is what it was before.
+#include "CapturedLog.h"
 #include "FailingAllocations.h"
+#include "PublicOperations.h"
 
 #include "FluidBench/Common/CommonPlottingObject.h"
 #include "FluidBench/Common/ErrorReport.h"
@@ -365,4 +367,46 @@ TEST(Torture, Readers) {
         EXPECT_EQ(messages.size(), isDone ? 1U : 0U);
     });
     EXPECT_GT(failures, 10U);
+}
+
+// Whatever is refused, a reader says so or throws, and reads well the next time.
+TEST(Torture, EveryReader) {
+    const CapturedLog log;
+    for (const ReadOperation& each : ReadOperations()) {
+        SCOPED_TRACE(each.name);
+        const Reading sound = each.make();
+        ASSERT_TRUE(sound.read());
+        const std::string expected = sound.text();
+        ASSERT_NE(expected, each.make().text());
+        const std::uint64_t failures = ForEachAllocation([&](FailingAllocations& memory) {
+            const Reading reading = each.make();
+            bool isRead = false;
+            if (memory.Run([&] { isRead = reading.read(); }) && isRead) {
+                EXPECT_EQ(reading.text(), expected);
+            }
+            const Reading next = memory.HaveFailed() ? reading : each.make();
+            EXPECT_TRUE(next.read());
+        });
+        EXPECT_GT(failures, 10U);
+    }
+}
+
+// A stream never looks good when the operation went without something.
+TEST(Torture, EveryWriter) {
+    for (const WriteOperation& each : WriteOperations()) {
+        SCOPED_TRACE(each.name);
+        std::ostringstream sound;
+        const bool hasErrors = each.toStream(sound).HasErrors();
+        ForEachAllocation([&](FailingAllocations& memory) {
+            std::ostringstream out;
+            bool isWritten = false;
+            if (memory.Run([&] { isWritten = !each.toStream(out).HasErrors() && out.good(); }) &&
+                isWritten) {
+                EXPECT_EQ(out.str(), sound.str());
+            }
+            std::ostringstream next;
+            EXPECT_EQ(each.toStream(next).HasErrors(), hasErrors);
+            EXPECT_EQ(next.str(), sound.str());
+        });
+    }
 }
