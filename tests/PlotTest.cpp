@@ -43,8 +43,8 @@ std::size_t CountOf(const std::string& svg, const std::string& part) {
     return count;
 }
 
-constexpr const char* onePoint =
-    "ODEN,800\nGDEN,1\nRSCONST,50\nPSAT,1e7\nPVTO, Rs, PSAT, Bo, Muo\n\t,50,100,1.2,0.5\n";
+constexpr const char* onePoint = "ODEN,800\nWDEN,1000\nGDEN,1\nRSCONST,50\nPSAT,1e7\nPVTO, Rs, "
+                                 "PSAT, Bo, Muo\n\t,50,100,1.2,0.5\n";
 
 } // namespace
 

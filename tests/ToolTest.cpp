@@ -12,7 +12,7 @@ namespace {
 class ToolTest : public ToolRun {};
 
 constexpr const char* blackOil =
-    "ODEN,800\nGDEN,1\nRSCONST,50\nPSAT,1e7\n\n"
+    "ODEN,800\nWDEN,1000\nGDEN,1\nRSCONST,50\nPSAT,1e7\n"
     "Units, METRIC\nPVTO, Rs, PSAT, Bo, Muo\n"
     "\t,50,100,1.2,0.5\n\t,50,150,1.18,0.55\n\n"
     "Units, METRIC\nPVTG, PSAT, Rv, Bg, Mug\n\t,150,0.0001,0.01,0.02\n";
@@ -165,6 +165,19 @@ TEST_F(ToolTest, ReadsWhatThereIsAndTellsWhatIsNone) {
         EXPECT_EQ(run.output, c.output) << c.arguments;
         EXPECT_EQ(run.messages, c.messages) << c.arguments;
     }
+    const std::pair<std::string, const char*> odd[] = {
+        {std::string("E\0O\0S\0\n\0", 8), "found what looks like UTF-16"},
+        {std::string("E\0\0\0O\0\0\0S\0\0\0", 12), "found what looks like UTF-32"},
+        {"STCOND\r15 1 /\rCNAMES\rC1 /\r", "found carriage returns alone"},
+    };
+    for (const auto& [text, found] : odd) {
+        folder.Write("odd", text);
+        EXPECT_NE(Tool("check odd").messages.find(found), std::string::npos) << found;
+    }
+    const std::string tables = "printf '\\nKVTABLE\\n/\\nHEATVAPS\\n/\\n'";
+    EXPECT_EQ(Shell("rm odd; (cat reservoir-oil-field.dat; " + tables + ") > deck.dat").status, 0);
+    EXPECT_TRUE(Tool("check deck.dat").output.starts_with("deck.dat: deck, "));
+    EXPECT_EQ(Shell("rm deck.dat").status, 0);
     EXPECT_EQ(Shell("ulimit -s 64; TOOL check good.csv").output, "good.csv: blackoil, good\n");
     // A pipe is read once, and gives all that a file does.
     EXPECT_EQ(Shell("cat good.csv | TOOL blackoil convert - -").output,

@@ -23,12 +23,6 @@ ReadFailed::ReadFailed(const FilePlace& place)
                        "expected to read on, found a failure of the file or its disk.") {}
 
 OddText::OddText(const FilePlace& place, TextKind kind)
-    : KeywordFileError(place, ": ",
-                       kind == TextKind::Utf16
-                           ? "expected text in UTF-8 or ASCII, found what looks like UTF-16: save "
-                             "the file as UTF-8."
-                           : "expected lines that end in newlines, found carriage returns alone: "
-                             "save the file with other line ends."),
-      kind_(kind) {}
+    : KeywordFileError(place, ": ", WhatIsOdd(kind) + '.'), kind_(kind) {}
 
 } // namespace Orv::Text

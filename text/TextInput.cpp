@@ -22,7 +22,28 @@ bool LooksLikeUtf16(std::string_view text) {
     return head.size() >= 4 && 3 * zeros > head.size() && 3 * zeros < 2 * head.size();
 }
 
+// Three zeros to a character of four bytes, which also begin a mark of that kind.
+bool LooksLikeUtf32(std::string_view text) {
+    using namespace std::string_view_literals;
+    constexpr std::size_t enough = 64;
+    if (text.starts_with("\xFF\xFE\0\0"sv) || text.starts_with("\0\0\xFE\xFF"sv)) {
+        return true;
+    }
+    const std::string_view head = text.substr(0, std::min(enough, text.size() / 4 * 4));
+    for (std::size_t i = 0; i < head.size(); i += 4) {
+        const std::string_view character = head.substr(i, 4);
+        if (std::ranges::count(character, '\0') != 3 ||
+            (character.front() == '\0') == (character.back() == '\0')) {
+            return false;
+        }
+    }
+    return !head.empty();
+}
+
 TextKind KindOf(std::string_view text) {
+    if (LooksLikeUtf32(text)) {
+        return TextKind::Utf32;
+    }
     if (LooksLikeUtf16(text)) {
         return TextKind::Utf16;
     }
@@ -33,6 +54,22 @@ TextKind KindOf(std::string_view text) {
 }
 
 } // namespace
+
+std::string WhatIsOdd(TextKind kind) {
+    constexpr const char* encoding = "expected text in UTF-8 or ASCII, found what looks like ";
+    switch (kind) {
+    case TextKind::Plain:
+        break;
+    case TextKind::Utf16:
+        return std::string(encoding) + "UTF-16: save the file as UTF-8";
+    case TextKind::Utf32:
+        return std::string(encoding) + "UTF-32: save the file as UTF-8";
+    case TextKind::CarriageReturns:
+        return "expected lines that end in newlines, found carriage returns alone: save the file "
+               "with other line ends";
+    }
+    return {};
+}
 
 void TextInput::MoveTo(std::uint64_t offset) {
     stream_->clear();

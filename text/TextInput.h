@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <istream>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,8 +14,13 @@ namespace Orv::Text {
 enum class TextKind {
     Plain,
     Utf16,           ///< two bytes a character, with or without a mark that says so
+    Utf32,           ///< four bytes a character
     CarriageReturns, ///< lines that end in carriage returns alone
 };
+
+/// What a person does about a text that isn't plain: "expected ..., found ...: save ...", as the
+/// middle of a sentence. Empty for plain text.
+std::string WhatIsOdd(TextKind kind);
 
 /// A position in a text that moves forward, with the text behind it. What is ahead lies in one
 /// piece of memory, as much of it as was asked for; what was passed is forgotten, so that the

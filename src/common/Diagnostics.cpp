@@ -43,20 +43,13 @@ void Diagnostics::Finish() {
 }
 
 void TellOddText(Diagnostics& diagnostics, TextKind kind) {
-    switch (kind) {
-    case TextKind::Plain:
-        break;
-    case TextKind::Utf16:
-        diagnostics.Tell(Kinds::utf16, 1,
-                         "Expected text in UTF-8 or ASCII, found what looks like UTF-16: save the "
-                         "file as UTF-8.");
-        break;
-    case TextKind::CarriageReturns:
-        diagnostics.Tell(Kinds::carriageReturns, 1,
-                         "Expected lines that end in newlines, found carriage returns alone: save "
-                         "the file with other line ends.");
-        break;
+    if (kind == TextKind::Plain) {
+        return;
     }
+    std::string sentence = Text::WhatIsOdd(kind) + '.';
+    sentence[0] = 'E';
+    diagnostics.Tell(kind == TextKind::CarriageReturns ? Kinds::carriageReturns : Kinds::utf16, 1,
+                     sentence);
 }
 
 void TellReadFailed(Diagnostics& diagnostics, std::uint64_t line) {

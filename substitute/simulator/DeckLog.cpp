@@ -32,7 +32,8 @@ const DeckProblem& ProblemOf(const std::exception& error) {
         return Problems::readFailed;
     }
     if (const auto* const odd = dynamic_cast<const OddText*>(&error)) {
-        return odd->Kind() == TextKind::Utf16 ? Problems::utf16 : Problems::carriageReturns;
+        return odd->Kind() == TextKind::CarriageReturns ? Problems::carriageReturns
+                                                        : Problems::utf16;
     }
     return Problems::refused;
 }

@@ -237,12 +237,9 @@ void Reader::ReadLines(LineReader& lines) {
 void Reader::RefuseOddText(TextKind kind) {
     isOver_ = kind != TextKind::Plain;
     line_ = isOver_ ? 1 : 0;
-    if (kind == TextKind::Utf16) {
-        Fail(Kind::Utf16, "expected text in UTF-8 or ASCII, found what looks like UTF-16: save the "
-                          "file as UTF-8");
-    } else if (kind == TextKind::CarriageReturns) {
-        Fail(Kind::CarriageReturns, "expected lines that end in newlines, found carriage returns "
-                                    "alone: save the file with other line ends");
+    if (isOver_) {
+        Fail(kind == TextKind::CarriageReturns ? Kind::CarriageReturns : Kind::Utf16,
+             Text::WhatIsOdd(kind));
     }
 }
 

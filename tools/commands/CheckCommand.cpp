@@ -3,10 +3,13 @@
 #include "FormatFinder.h"
 #include "Progress.h"
 #include "Shown.h"
+#include "TextInput.h"
 
 #include <algorithm>
 
 namespace FluidBenchTool {
+
+using Orv::Text::TextKind;
 
 namespace {
 
@@ -17,11 +20,24 @@ std::string CountText(std::uint64_t count, const char* what) {
     return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
 }
 
+// Fails where the text is of a kind that no reader takes apart.
+void RequirePlainText(Input& input, Messages& messages) {
+    const TextKind kind = Orv::Text::TextInput(input.Text()).Kind();
+    if (kind != TextKind::Plain) {
+        std::string sentence = Orv::Text::WhatIsOdd(kind) + '.';
+        sentence[0] = 'E';
+        messages.Fail(kind == TextKind::CarriageReturns ? ToolKinds::carriageReturns
+                                                        : ToolKinds::utf16,
+                      input.Name(), sentence, 1);
+    }
+}
+
 const Family& FamilyOf(Input& input, Call& call) {
     const auto asked = call.Asked().Value(format);
     const std::string name = asked ? *asked : std::string(FindFormat(input.Text()).name);
     const auto family = std::ranges::find(Families(), name, &Family::name);
     if (family == Families().end()) {
+        RequirePlainText(input, call.Told());
         call.Told().Fail(ToolKinds::unknownFormat, input.Name(),
                          "Expected a format that can be known by its keywords or headings, found "
                          "none; --format says which it is.");

@@ -13,8 +13,8 @@ namespace FluidBenchTool {
 namespace {
 
 // What a line begins with, up to a blank or the line's end, and what that says of the text. Where a
-// text has several, the one further up counts: a thermal file has the components of a deck, and a
-// deck may have depth tables.
+// text has several, the one further up counts: a thermal file has the components of a deck, though
+// not its models, and a deck may have K-values, heats and depth tables.
 struct Sign {
     std::string_view word;
     std::string_view format;
@@ -23,10 +23,12 @@ struct Sign {
 // clang-format off
 constexpr Sign signs[] = {
     {"MFL", "mfl"},
+    {"EOS", "deck"}, {"OMEGAA", "deck"}, {"OMEGAB", "deck"}, {"BIC", "deck"}, {"VCRIT", "deck"},
+    {"PARACHOR", "deck"},
     {"SPECHA", "thermal"}, {"SPECHG", "thermal"}, {"HEATVAPS", "thermal"}, {"KVCR", "thermal"},
     {"KVWI", "thermal"}, {"THERMEX1", "thermal"},
     {"KVTABLE", "kvalues"},
-    {"CNAMES", "deck"}, {"NCOMPS", "deck"}, {"EOS", "deck"}, {"TCRIT", "deck"},
+    {"CNAMES", "deck"}, {"NCOMPS", "deck"}, {"TCRIT", "deck"},
     {"PVTO", "blackoil"}, {"PVDO", "blackoil"}, {"PVTG", "blackoil"}, {"PVDG", "blackoil"},
     {"ZMFVD", "depth"}, {"PBVD", "depth"}, {"PDVD", "depth"}, {"RSVD", "depth"}, {"RVVD", "depth"},
     {"DENSITY", "blackoil"}, {"RSCONSTT", "blackoil"},

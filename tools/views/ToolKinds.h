@@ -19,6 +19,8 @@ using enum Orv::FluidBench::IO::Severity;
 inline constexpr ToolKind cantRead       {"tool.cant-read", Error};
 inline constexpr ToolKind cantWrite      {"tool.cant-write", Error};
 inline constexpr ToolKind unknownFormat  {"tool.unknown-format", Error};
+inline constexpr ToolKind utf16          {"file.utf-16", Error};
+inline constexpr ToolKind carriageReturns{"file.carriage-returns", Error};
 inline constexpr ToolKind keywordForm    {"tool.keyword-form", Error};
 inline constexpr ToolKind badRow         {"tool.bad-row", Error};
 inline constexpr ToolKind nothingRead    {"tool.nothing-read", Error};
