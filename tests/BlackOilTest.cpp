@@ -204,18 +204,21 @@ TEST_F(BlackOil, TextThatTheReaderMeets) {
     const std::string densities = "ODEN,800\nWDEN,1000\nGDEN,1\n";
     const Case cases[] = {
         {"", "0 0 0 oil gas", "0:no-table"},
-        {std::string("\0\xff,\0,,,,\n", 9), "0 0 0 oil gas", "0:no-table"},
+        {std::string("\0\xff,\0,,,,\n", 9), "0 0 0 oil gas", "1:other-text 0:no-table"},
         {"ODEN,800\nOden,801\n oden,802\nwden, 1e3x\nGDEN,\nunits,1\nDENS,3\nFILEUNIT\n",
          "801 1000 0 oil gas",
-         "3:heading-form 4:text-behind-number 5:not-a-number 6:other-units 0:no-table"},
+         "3:heading-form 4:text-behind-number 5:not-a-number 6:other-units 7:other-text "
+         "0:no-table"},
         // Cells: the first isn't read, a missing number is 0, and what follows the fifth is
         // dropped.
         {"pvto,\nx,1,2,3,4,5\n,1,a,3,4\n1,2,3,4\n,1, 4bar ,,\nunits, 1\n\n,1,5,3,4",
          "0 0 0 oil 2 0 4; 5; gas",
-         "2:text-behind-number 3:not-a-number 3:pressure-order 4:row-skipped 5:text-behind-number "
-         "5:not-a-number 5:not-a-number 0:no-densities"},
+         "2:first-cell 2:text-behind-number 3:not-a-number 3:pressure-order 4:row-skipped "
+         "5:text-behind-number "
+         "5:not-a-number 5:not-a-number 6:other-units "
+         "0:no-densities 0:no-water-density 0:no-densities"},
         {"PVTO,\r\n,1,2,3,4\r\n\r\n,1,3,3,4\r\n\r\nUnits, METRIC\r\nPVTG,\r\n,2,1,3,4\r\n",
-         "0 0 0 oil 2; 3; gas 2;", "0:no-densities"},
+         "0 0 0 oil 2; 3; gas 2;", "0:no-densities 0:no-water-density 0:no-densities"},
         {densities + "PVTG, PSAT\n,7,1,2,3\n\nUnits, METRIC\nPVTO, Rs, PSAT, Bo, Muo\n,8,1,2,3\n",
          "800 1000 1 oil gas 7; 0 8;",
          "8:heading-in-table 8:not-a-number 8:not-a-number 8:not-a-number 8:not-a-number"},
@@ -225,7 +228,8 @@ TEST_F(BlackOil, TextThatTheReaderMeets) {
          "800 1000 1 oil 2; 3; gas", ""},
         {"PVTO,\n,1,2,3," + std::string(1'000'000, ',') + "\n,1,3,3,4\n" +
              std::string(1'000'000, 'x'),
-         "0 0 0 oil 2 3; gas", "2:not-a-number 4:row-skipped 0:no-densities"},
+         "0 0 0 oil 2 3; gas",
+         "2:not-a-number 4:row-skipped 0:no-densities 0:no-water-density 0:no-densities"},
         // What spreadsheets and people make of it.
         {"\xEF\xBB\xBF" + densities + "PVTO,,,,\n,1,2,3,4\n,,,,\n\t,1,3,3,4\n   \n;1;4;3;4\n",
          "800 1000 1 oil 2 0 3; gas", "6:padded-row 8:padded-row 9:other-separator"},
@@ -238,8 +242,23 @@ TEST_F(BlackOil, TextThatTheReaderMeets) {
          "800 1000 1 oil 2 0; gas",
          "6:heading-in-table 6:not-a-number 6:not-a-number 6:not-a-number 6:not-a-number "
          "6:pressure-order 7:heading-in-table 7:row-skipped 9:heading-form"},
-        {"PVTO,\rODEN,1\r", "0 0 0 oil gas", "1:carriage-returns 1:no-rows 0:no-densities"},
+        {"PVTO,\rODEN,1\r", "0 0 0 oil gas",
+         "1:carriage-returns 1:no-rows 0:no-densities 0:no-water-density 0:no-densities"},
         {std::string("P\0V\0T\0O\0,\0\n\0", 12), "0 0 0 oil gas", "1:utf-16 0:no-table"},
+        {std::string("P\0\0\0V\0\0\0,\0\0\0", 12), "0 0 0 oil gas", "1:utf-16 0:no-table"},
+        {"ODEN,800,,,\nWDEN;850\nWDEN,1000,,,,\nUnits, METRIC,,,\n,,,\nPVTO, Rs,,,,,\n"
+         ",1,2,3,4,,\n,,,,,\n,1,3,3,4, ,x\n,,\nUnits,METRIC,,,,\n\"PVTG\",,,,\nPVTG,,,,\n"
+         "10,1,2,3,4\nUNITS,metric,,\nFILEUNIT,,,\nMETRIC,,\n/,,,,",
+         "800 1000 0 oil 2 0 3; gas 1 0;",
+         "2:other-separator 8:padded-row 9:text-behind-number 10:padded-row 12:heading-form "
+         "14:first-cell 18:padded-row 0:no-densities"},
+        {"1,2,3,4\nPVTO\n,1,2,3,4\nPVTO Rs\nPVDO,\nsome text\n" + densities +
+             "Pvto,\n,1,2,3,4\n,1,3,3,4 Units\nUnits: FIELD\n\t,1,4,3,4\nPVDG\nPVTO;Rs\n"
+             ";1;5;3;4\n",
+         "800 1000 1 oil 2; gas",
+         "1:row-outside-table 2:heading-form 3:row-outside-table 4:heading-form 5:heading-form "
+         "6:other-text 12:row-outside-table 13:other-units 14:row-outside-table 15:heading-form "
+         "16:other-separator 17:row-outside-table"},
     };
     Diagnosed diagnosed;
     for (const Case& each : cases) {
@@ -288,7 +307,7 @@ TEST_F(BlackOil, TellsOfAFileThatFailsAndOfTwentyOfOneCode) {
               "Expected a file to read, found no file of that name.");
     EXPECT_EQ(diagnosed.Take(), "0:cant-open");
 
-    std::string rows = "ODEN,1\nPVTO,\n,1,2,3,4\n";
+    std::string rows = "ODEN,1\nWDEN,1\nGDEN,1\nPVTO,\n,1,2,3,4\n";
     for (int i = 0; i < 25; ++i) {
         rows += ",1,2\n";
     }
@@ -297,6 +316,16 @@ TEST_F(BlackOil, TellsOfAFileThatFailsAndOfTwentyOfOneCode) {
     ASSERT_EQ(diagnosed.All().size(), 21U);
     EXPECT_EQ(diagnosed.All().back().sentence, "5 more like this.");
     EXPECT_EQ(diagnosed.All().back().line, 0U);
+    diagnosed.Take();
+
+    std::istringstream odd("PVTO,\n,0x10,-1e999,1,nan\n");
+    writer.GetTableFromCSVFile(odd);
+    for (const std::size_t i : {0U, 1U, 2U}) {
+        const char* const taken[] = {"; 16 was taken.", "; minus infinity was taken.",
+                                     "; a not-a-number was taken."};
+        EXPECT_TRUE(diagnosed.All().at(i).sentence.ends_with(taken[i]))
+            << diagnosed.All().at(i).sentence;
+    }
 }
 
 TEST(BlackOilDataRecords, EntriesOfEarlierRecordsAndBadIndices) {

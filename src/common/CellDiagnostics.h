@@ -13,6 +13,7 @@ struct CellKinds {
     const DiagnosticKind& notANumber;
     const DiagnosticKind& textBehindNumber;
     const DiagnosticKind& notFinite;
+    double (*read)(std::string_view cell) noexcept; ///< what the reader makes of a cell
 };
 
 /// Tells where the cell isn't a decimal number and nothing else, and what the reader makes of it;

@@ -31,8 +31,10 @@ using enum FluidBench::IO::Severity;
 inline constexpr DiagnosticKind noTable          {"blackoil.no-table", Error};
 inline constexpr DiagnosticKind noRows           {"blackoil.no-rows", Warning};
 inline constexpr DiagnosticKind rowSkipped       {"blackoil.row-skipped", Warning};
+inline constexpr DiagnosticKind rowOutsideTable  {"blackoil.row-outside-table", Warning};
 inline constexpr DiagnosticKind otherSeparator   {"blackoil.other-separator", Warning};
 inline constexpr DiagnosticKind paddedRow        {"blackoil.padded-row", Warning};
+inline constexpr DiagnosticKind firstCell        {"blackoil.first-cell", Warning};
 inline constexpr DiagnosticKind notANumber       {"blackoil.not-a-number", Warning};
 inline constexpr DiagnosticKind textBehindNumber {"blackoil.text-behind-number", Warning};
 inline constexpr DiagnosticKind notFinite        {"blackoil.not-finite", Warning};
@@ -43,6 +45,8 @@ inline constexpr DiagnosticKind secondTable      {"blackoil.second-table", Warni
 inline constexpr DiagnosticKind pressureOrder    {"blackoil.pressure-order", Warning};
 inline constexpr DiagnosticKind negativeValue    {"blackoil.negative-value", Warning};
 inline constexpr DiagnosticKind noDensities      {"blackoil.no-densities", Warning};
+inline constexpr DiagnosticKind noWaterDensity   {"blackoil.no-water-density", Note};
+inline constexpr DiagnosticKind otherText        {"blackoil.other-text", Note};
 
 } // namespace BlackOilKinds
 

@@ -13,6 +13,8 @@
 #include "io/BlackOilExportFileWriter.h"
 
 #include "CellDiagnostics.h"
+#include "CellNumber.h"
+#include "Characters.h"
 #include "Diagnostics.h"
 #include "FluidBench/Common/Units.h"
 #include "InputFile.h"
@@ -34,7 +36,9 @@ using Impl::IO::Diagnostics;
 using Impl::IO::OpenOrTell;
 using Model::BlackOilDataRecords;
 using Model::BlackOilTable;
+using Text::CellContent;
 using Text::LineReader;
+using Text::LookAtCell;
 using Text::ParseAsAtof;
 using Text::Quote;
 using Text::TakeAsAtof;
@@ -64,7 +68,7 @@ constexpr const Layout& LayoutOf(TableKind kind) noexcept {
 }
 
 constexpr Impl::IO::CellKinds cellKinds{Kinds::notANumber, Kinds::textBehindNumber,
-                                        Kinds::notFinite};
+                                        Kinds::notFinite, ParseAsAtof};
 constexpr const char* countsAsZero = "it counts as 0";
 
 // By hand, since tolower asks the program's locale.
@@ -73,7 +77,7 @@ constexpr char ToLower(char c) noexcept {
 }
 
 bool IsKey(std::string_view text, std::string_view key) noexcept {
-    return std::ranges::equal(text, key, {}, ToLower);
+    return std::ranges::equal(text, key, {}, ToLower, ToLower);
 }
 
 // The text without blanks and quotes around it.
@@ -89,11 +93,67 @@ std::string_view FirstCell(std::string_view line) noexcept {
     return line.substr(0, line.find(','));
 }
 
-bool BeginsTable(std::string_view key) noexcept {
-    return IsKey(key, oilLayout.heading) || IsKey(key, gasLayout.heading);
+// A spreadsheet fills its lines up with commas.
+std::string_view WithoutPadding(std::string_view text) noexcept {
+    return text.substr(0, text.find_last_not_of(", \t") + 1);
 }
 
-// The last cell takes the rest of the line.
+// What people write ahead of a line's numbers.
+enum class KeyKind { None, Table, OtherTable, Value, Units, FileUnit };
+
+struct Key {
+    const char* word;
+    KeyKind kind;
+};
+
+constexpr Key keys[] = {
+    {oilLayout.heading, KeyKind::Table},
+    {gasLayout.heading, KeyKind::Table},
+    {"pvdo", KeyKind::OtherTable}, // of the keyword form
+    {"pvdg", KeyKind::OtherTable},
+    {"oden", KeyKind::Value},
+    {"wden", KeyKind::Value},
+    {"gden", KeyKind::Value},
+    {"rsconst", KeyKind::Value},
+    {"psat", KeyKind::Value},
+    {"units", KeyKind::Units},
+    {"fileunit", KeyKind::FileUnit},
+};
+
+// The word that a line begins with, however it is dressed and whatever stands behind it.
+struct LeadingWord {
+    std::string_view word;
+    std::string_view behind;
+    KeyKind kind = KeyKind::None;
+};
+
+LeadingWord LeadingWordOf(std::string_view line) noexcept {
+    constexpr std::string_view dressing = " \t\"'";
+    line.remove_prefix(std::min(line.find_first_not_of(dressing), line.size()));
+    const auto end = std::ranges::find_if_not(line, Text::IsLetter);
+    const auto length = static_cast<std::size_t>(end - line.begin());
+    LeadingWord leading{line.substr(0, length), line.substr(length)};
+    for (const Key& key : keys) {
+        if (length != 0 && IsKey(leading.word, key.word)) {
+            leading.kind = key.kind;
+        }
+    }
+    return leading;
+}
+
+// Whether the first thing on a line is a number, whatever parts it from the next.
+bool BeginsWithNumber(std::string_view line) noexcept {
+    constexpr std::string_view separators = " \t,;|\"'";
+    line.remove_prefix(std::min(line.find_first_not_of(separators), line.size()));
+    return LookAtCell(line.substr(0, line.find_first_of(separators))) == CellContent::Number;
+}
+
+// The record that `CSVFormatter` closes a file with.
+bool IsClosing(std::string_view text) noexcept {
+    return text == "FILEUNIT" || text == "METRIC" || text == "FIELD" || text == "/";
+}
+
+// The last cell takes the rest of the line, as far as it isn't padding.
 using Cells = std::array<std::string_view, 4>;
 
 // The cells of a line that is a row.
@@ -105,7 +165,7 @@ Cells SplitRow(std::string_view line) noexcept {
         comma = line.find(',', begin);
         cells[i] = line.substr(begin, comma - begin);
     }
-    cells.back() = line.substr(comma + 1);
+    cells.back() = WithoutPadding(line.substr(comma + 1));
     return cells;
 }
 
@@ -133,6 +193,20 @@ std::optional<Row> ReadRow(std::string_view line, const Layout& layout) noexcept
                numbers[volumeFactorCell], Units::Viscosity_cp_To_Pas(numbers[viscosityCell])};
 }
 
+// The densities of the file form; each has a key of its own.
+struct DensityLine {
+    const char* key; // in capitals
+    const char* name;
+    const Impl::IO::DiagnosticKind& missing;
+    void (BlackOilTable::*set)(double);
+};
+
+constexpr DensityLine densities[] = {
+    {"ODEN", "oil", Kinds::noDensities, &BlackOilTable::SetOilDensity},
+    {"WDEN", "water", Kinds::noWaterDensity, &BlackOilTable::SetWaterDensity},
+    {"GDEN", "gas", Kinds::noDensities, &BlackOilTable::SetGasDensity},
+};
+
 // Looks at what the reader takes or passes over, and tells of what may not be meant so. It is asked
 // only when somebody listens.
 class Watch {
@@ -146,11 +220,14 @@ public:
     void BeginRecord() { previousPressure_.reset(); }
     void SkippedRow(std::string_view line);
     void TakenRow(std::string_view line, const Row& row);
-    void Density(std::string_view name, std::string_view value);
+    void Density(const DensityLine& density, std::string_view value);
     void EndFile();
 
 private:
-    void LookForHeading(std::string_view line);
+    bool IsHeading(std::string_view line);
+    void Units(std::string_view behind);
+    void WithoutEffect(std::string_view line, const LeadingWord& leading);
+    void FirstCellOf(std::string_view line);
     void Tell(const Impl::IO::DiagnosticKind& kind, const std::string& sentence) {
         diagnostics_.Tell(kind, lines_.Number(), sentence);
     }
@@ -160,26 +237,73 @@ private:
     const Layout* layout_ = &oilLayout;
     std::optional<double> previousPressure_; // in the record
     std::uint64_t heading_ = 0;              // its line
+    std::uint64_t endOfTable_ = 0;           // the line that ended the oil table
     std::array<bool, 2> hadTable_{};
     bool hasRows_ = false;
-    bool hasDensity_ = false;
+    std::array<bool, std::size(densities)> hasDensity_{};
 };
 
 void Watch::AtTopLevel(std::string_view line) {
-    const std::string_view key = FirstCell(line);
-    const std::string_view bare = Bare(key);
-    const bool isForeignForm = bare.size() != key.size();
-    if (isForeignForm &&
-        (BeginsTable(bare) || IsKey(bare, "oden") || IsKey(bare, "wden") || IsKey(bare, "gden"))) {
-        Tell(Kinds::headingForm, "Expected the key without blanks or quotes around it, found " +
-                                     Quote(key) + "; the line doesn't count.");
+    const std::string_view text = WithoutPadding(line);
+    if (text.empty() || IsClosing(text)) {
+        return;
     }
-    if (IsKey(bare, "units") && line.size() > key.size()) {
-        const std::string_view system = Bare(line.substr(key.size() + 1));
-        if (!IsKey(system, "metric")) {
-            Tell(Kinds::otherUnits, "Expected 'METRIC', found " + Quote(system) +
-                                        "; the numbers are taken as metric all the same.");
+    const LeadingWord leading = LeadingWordOf(text);
+    switch (leading.kind) {
+    case KeyKind::FileUnit:
+        break;
+    case KeyKind::Units:
+        Units(leading.behind);
+        break;
+    case KeyKind::OtherTable:
+        Tell(Kinds::headingForm, "Expected the heading 'PVTO,' or 'PVTG,', found " + Quote(text) +
+                                     "; the line doesn't count, nor do the rows below it.");
+        break;
+    case KeyKind::Table:
+    case KeyKind::Value:
+        if (line.substr(0, line.find(',')) != leading.word || line.size() == leading.word.size()) {
+            WithoutEffect(text, leading);
         }
+        break;
+    case KeyKind::None:
+        if (BeginsWithNumber(text)) {
+            Tell(Kinds::rowOutsideTable,
+                 "Expected rows below a heading 'PVTO,' or 'PVTG,', found " + Quote(text) +
+                     " outside of any table; it doesn't count." +
+                     (endOfTable_ == 0
+                          ? std::string()
+                          : " The oil table ended at line " + std::to_string(endOfTable_) +
+                                ", which holds 'Units'."));
+        } else {
+            Tell(Kinds::otherText,
+                 "Expected a key and its value or a heading, found " + Quote(text) + ".");
+        }
+    }
+}
+
+void Watch::Units(std::string_view behind) {
+    constexpr std::string_view dressing = " \t\"',:;=";
+    behind.remove_prefix(std::min(behind.find_first_not_of(dressing), behind.size()));
+    const std::string_view system = Bare(behind);
+    if (!system.empty() && !IsKey(system, "metric")) {
+        Tell(Kinds::otherUnits, "Expected 'METRIC', found " + Quote(system) +
+                                    "; the numbers are taken as metric all the same.");
+    }
+}
+
+// A key that the reader knows, but not so.
+void Watch::WithoutEffect(std::string_view line, const LeadingWord& leading) {
+    const std::string_view behind = Bare(leading.behind);
+    if (!behind.empty() && (behind.front() == ';' || behind.front() == '|' ||
+                            (leading.behind.front() == '\t' && behind.front() != ','))) {
+        Tell(Kinds::otherSeparator,
+             "Expected cells parted by commas, found " + Quote(line) + "; the line doesn't count.");
+    } else {
+        Tell(Kinds::headingForm,
+             "Expected the key " + Quote(leading.word) +
+                 " at the head of the line, without blanks or quotes around it and with a comma "
+                 "behind it, found " +
+                 Quote(line) + "; the line doesn't count.");
     }
 }
 
@@ -197,37 +321,50 @@ void Watch::BeginTable(TableKind kind) {
 }
 
 void Watch::EndTable() {
+    endOfTable_ = lines_.Number();
     if (!hasRows_) {
         diagnostics_.Tell(Kinds::noRows, heading_,
                           "Expected rows of five cells below the heading, found none.");
     }
 }
 
-void Watch::LookForHeading(std::string_view line) {
-    const std::string_view key = Bare(FirstCell(line));
-    if (BeginsTable(key)) {
+// Tells of a heading or a units line inside a table.
+bool Watch::IsHeading(std::string_view line) {
+    const LeadingWord leading = LeadingWordOf(line);
+    if (leading.kind == KeyKind::Table || leading.kind == KeyKind::OtherTable) {
         Tell(Kinds::headingInTable,
              "Expected a row of the table that begins on line " + std::to_string(heading_) +
-                 ", found the heading " + Quote(key) +
+                 ", found the heading " + Quote(leading.word) +
                  ": what is below counts as more of that table. A table ends at a line with "
                  "'Units', and the gas table at the end of the file.");
+        return true;
     }
-    if (layout_ == &gasLayout && IsKey(key, "units")) {
-        AtTopLevel(line);
+    if (leading.kind == KeyKind::Units) {
+        Units(WithoutPadding(leading.behind));
+        return true;
+    }
+    return false;
+}
+
+// Nobody reads it, so it should hold nothing.
+void Watch::FirstCellOf(std::string_view line) {
+    const std::string_view cell = FirstCell(line);
+    if (!Bare(cell).empty()) {
+        Tell(Kinds::firstCell, "Expected an empty first cell, found " + Quote(cell) +
+                                   ", which isn't read; the numbers are those of the four cells "
+                                   "behind it.");
     }
 }
 
 void Watch::SkippedRow(std::string_view line) {
-    LookForHeading(line);
-    const bool closesFile =
-        line == "FILEUNIT" || line == "METRIC" || line == "FIELD" || line == "/";
-    const bool isUnits = IsKey(Bare(FirstCell(line)), "units");
-    if (closesFile || isUnits) {
+    const std::string_view text = WithoutPadding(line);
+    const LeadingWord leading = LeadingWordOf(text);
+    if ((IsHeading(text) && leading.kind == KeyKind::Units) || IsClosing(text)) {
         return;
     }
-    if (Bare(line).empty()) {
-        Tell(Kinds::paddedRow,
-             "Expected a row or an empty line, found blanks alone; the line ends no record.");
+    if (Bare(text).empty()) {
+        Tell(Kinds::paddedRow, "Expected a row or an empty line, found blanks or separators alone; "
+                               "the line ends no record.");
         return;
     }
     if (line.find(',') == std::string_view::npos &&
@@ -242,13 +379,17 @@ void Watch::SkippedRow(std::string_view line) {
 }
 
 void Watch::TakenRow(std::string_view line, const Row& row) {
-    LookForHeading(line);
+    const bool isHeading = IsHeading(line);
     hasRows_ = true;
-    if (line.find_first_not_of(", \t\"") == std::string_view::npos) {
-        Tell(Kinds::paddedRow, "Expected a row of numbers, found separators alone; it counts as a "
-                               "row of zeros. An empty line ends a record, so delete what is on "
-                               "this one.");
+    if (line.substr(line.find(',')).find_first_not_of(", \t\"") == std::string_view::npos) {
+        Tell(Kinds::paddedRow, "Expected a row of numbers, found separators alone in " +
+                                   Quote(WithoutPadding(line)) +
+                                   "; it counts as a row of zeros. An empty line ends a record, so "
+                                   "delete what is on this one.");
         return;
+    }
+    if (!isHeading) {
+        FirstCellOf(line);
     }
     const Cells cells = SplitRow(line);
     for (std::size_t i = 0; i < cells.size(); ++i) {
@@ -272,12 +413,13 @@ void Watch::TakenRow(std::string_view line, const Row& row) {
     previousPressure_ = row.pressure;
 }
 
-void Watch::Density(std::string_view name, std::string_view value) {
-    hasDensity_ = true;
-    TellCell(diagnostics_, cellKinds, lines_.Number(), std::string(name) + " density", value,
+void Watch::Density(const DensityLine& density, std::string_view value) {
+    hasDensity_[static_cast<std::size_t>(&density - densities)] = true;
+    const std::string_view cell = WithoutPadding(value);
+    TellCell(diagnostics_, cellKinds, lines_.Number(), std::string(density.name) + " density", cell,
              countsAsZero);
-    if (ParseAsAtof(value) < 0.0) {
-        Tell(Kinds::negativeValue, "Expected a density above zero, found " + Quote(value) + ".");
+    if (ParseAsAtof(cell) < 0.0) {
+        Tell(Kinds::negativeValue, "Expected a density above zero, found " + Quote(cell) + ".");
     }
 }
 
@@ -285,10 +427,16 @@ void Watch::EndFile() {
     if (!hadTable_[0] && !hadTable_[1]) {
         diagnostics_.Tell(Kinds::noTable, 0,
                           "Expected a line that begins with 'PVTO,' or 'PVTG,', found none.");
-    } else if (!hasDensity_) {
-        diagnostics_.Tell(Kinds::noDensities, 0,
-                          "Expected lines that begin with 'ODEN,' and 'GDEN,', found none ahead of "
-                          "the tables.");
+        return;
+    }
+    for (std::size_t i = 0; i < std::size(densities); ++i) {
+        if (!hasDensity_[i]) {
+            const auto& [heading, name, kind, set] = densities[i];
+            diagnostics_.Tell(kind, 0,
+                              std::string("Expected a line that begins with '") + heading +
+                                  ",' ahead of the tables, found none; the " + name +
+                                  " density is that of a new table.");
+        }
     }
 }
 
@@ -314,10 +462,12 @@ private:
 };
 
 BlackOilTable CsvReader::Read() {
-    TellOddText(diagnostics_, lines_.Kind());
+    const Text::TextKind kind = lines_.Kind();
+    TellOddText(diagnostics_, kind);
+    const bool isWatched = diagnostics_.AreWanted() && kind == Text::TextKind::Plain;
     BlackOilTable table;
     for (std::string_view line; lines_.Next(line);) {
-        if (diagnostics_.AreWanted()) {
+        if (isWatched) {
             watch_.AtTopLevel(line);
         }
         ReadLine(line, table);
@@ -331,14 +481,6 @@ BlackOilTable CsvReader::Read() {
 }
 
 void CsvReader::ReadLine(std::string_view line, BlackOilTable& table) {
-    struct DensityLine {
-        const char* key;
-        const char* name;
-        void (BlackOilTable::*set)(double);
-    };
-    static constexpr DensityLine densities[] = {{"oden", "oil", &BlackOilTable::SetOilDensity},
-                                                {"wden", "water", &BlackOilTable::SetWaterDensity},
-                                                {"gden", "gas", &BlackOilTable::SetGasDensity}};
     const std::size_t comma = line.find(',');
     if (comma == std::string_view::npos) {
         return;
@@ -348,7 +490,9 @@ void CsvReader::ReadLine(std::string_view line, BlackOilTable& table) {
     for (const DensityLine& density : densities) {
         if (IsKey(key, density.key)) {
             (table.*density.set)(ParseAsAtof(value));
-            watch_.Density(density.name, value);
+            if (diagnostics_.AreWanted()) {
+                watch_.Density(density, value);
+            }
         }
     }
     if (readsSaturationPoint_) {
@@ -371,8 +515,8 @@ void CsvReader::ReadSaturationPoint(std::string_view key, std::string_view value
     table.SetSaturationPoint(isRatio ? number : table.GetSaturationPointRs(),
                              isRatio ? table.GetSaturationPointPressure() : number);
     TellCell(diagnostics_, cellKinds, lines_.Number(),
-             isRatio ? "ratio of the saturation point" : "pressure of the saturation point", value,
-             countsAsZero);
+             isRatio ? "ratio of the saturation point" : "pressure of the saturation point",
+             WithoutPadding(value), countsAsZero);
 }
 
 BlackOilDataRecords CsvReader::ReadTable(TableKind kind) {
@@ -389,10 +533,11 @@ BlackOilDataRecords CsvReader::ReadTable(TableKind kind) {
             recordHasRows = false;
             watch_.BeginRecord();
         } else if (kind == TableKind::Oil && line.find("Units") != std::string_view::npos) {
+            watch_.EndTable();
             if (isWatched) {
                 watch_.AtTopLevel(line);
             }
-            break;
+            return records;
         } else if (const auto row = ReadRow(line, layout)) {
             records.AddEntry(record, row->pressure, row->ratio, row->volumeFactor, row->viscosity);
             recordHasRows = true;

@@ -22,7 +22,7 @@ using Text::WithoutBlanks;
 namespace {
 
 constexpr CellKinds cellKinds{EnvelopeKinds::notANumber, EnvelopeKinds::textBesideNumber,
-                              EnvelopeKinds::notFinite};
+                              EnvelopeKinds::notFinite, ParseLeadingDecimal};
 constexpr std::string_view axisNames[] = {"temperature", "pressure"};
 
 bool HasDigit(std::string_view text) {
