@@ -291,14 +291,27 @@ TEST_F(BlackOil, ReadsTheSaturationPointWhenAskedTo) {
 TEST_F(BlackOil, TellsOfAFileThatFailsAndOfTwentyOfOneCode) {
     Diagnosed diagnosed;
     writer.SetDiagnosticSink(diagnosed.Sink());
-    // The block that fails is lost whole.
+    for (const bool isSet : {false, true}) {
+        std::istringstream failed("ODEN,1\n");
+        failed.setstate(isSet ? std::ios_base::failbit : std::ios_base::badbit);
+        EXPECT_EQ(Summary(writer.GetTableFromCSVFile(failed)), "0 0 0 oil gas");
+        EXPECT_EQ(diagnosed.Take(), "0:read-failed");
+    }
+    // Whatever the stream would throw; what was read ahead of the failure stands.
     std::string text = "ODEN,1\nPVTO,\n,1,2,3,4\n";
     text.append(200'000, '\n');
+    constexpr auto all = std::ios_base::badbit | std::ios_base::failbit | std::ios_base::eofbit;
+    std::istringstream good(text);
+    good.exceptions(all);
+    EXPECT_EQ(Summary(writer.GetTableFromCSVFile(good)), "1 0 0 oil 2; gas");
+    EXPECT_EQ(good.exceptions(), all);
+    diagnosed.Take();
     FailingInput failing(text, text.size());
     std::istream stream(&failing);
+    stream.exceptions(all);
     EXPECT_EQ(Summary(writer.GetTableFromCSVFile(stream, "oil.csv")), "1 0 0 oil 2; gas");
     EXPECT_EQ(diagnosed.All().front().file, "oil.csv");
-    EXPECT_GT(diagnosed.All().back().line, 100'000U);
+    EXPECT_EQ(diagnosed.All().back().line, 200'003U);
     EXPECT_EQ(diagnosed.All().back().code, "file.read-failed");
     diagnosed.Take();
 

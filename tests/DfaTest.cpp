@@ -211,7 +211,7 @@ TEST_F(DfaTest, RefusesFilesThatFail) {
         EXPECT_FALSE(mainFails ? reader.Import(bad, good, "failing", "good")
                                : reader.Import(good, bad, "good", "failing"));
         EXPECT_EQ(diagnosed.All().at(0).file, "failing");
-        EXPECT_EQ(diagnosed.Take(), "0:read-failed");
+        EXPECT_EQ(diagnosed.Take(), "2:read-failed");
         EXPECT_EQ(Depths(), "A: 1");
     }
     EXPECT_FALSE(reader.Import(folder / "missing_DFA.txt"));

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <exception>
+#include <fstream>
 
 namespace Orv::Text {
 
@@ -53,6 +55,16 @@ TextKind KindOf(std::string_view text) {
     return !text.empty() && hasOddLineEnds ? TextKind::CarriageReturns : TextKind::Plain;
 }
 
+// Calls an operation on a stream. What it throws because of the stream's exception mask is in the
+// stream's state as well.
+template <typename Operation>
+void Quietly(Operation operation) {
+    try {
+        operation();
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
+    }
+}
+
 } // namespace
 
 std::string WhatIsOdd(TextKind kind) {
@@ -73,7 +85,7 @@ std::string WhatIsOdd(TextKind kind) {
 
 void TextInput::MoveTo(std::uint64_t offset) {
     stream_->clear();
-    stream_->seekg(static_cast<std::streamoff>(offset));
+    Quietly([&] { stream_->seekg(static_cast<std::streamoff>(offset)); });
     begin_ = end_ = 0;
     offsetOfBuffer_ = offset;
     hasBegun_ = true;
@@ -82,6 +94,27 @@ void TextInput::MoveTo(std::uint64_t offset) {
 TextKind TextInput::Kind() {
     Ahead();
     return kind_;
+}
+
+// A file gives a whole block at once. Of any other buffer that throws nobody knows what it gave
+// before, so it is asked for no more than it has at a time.
+std::size_t TextInput::ReadInto(char* place, std::size_t size) {
+    const bool isFile = dynamic_cast<const std::filebuf*>(stream_->rdbuf()) != nullptr;
+    std::size_t count = 0;
+    while (count < size && stream_->good()) {
+        auto wanted = static_cast<std::streamsize>(size - count);
+        Quietly([&] {
+            if (!isFile && stream_->peek() != std::char_traits<char>::eof()) {
+                const std::streamsize there = stream_->rdbuf()->in_avail();
+                wanted = there > 0 ? std::min(there, wanted) : wanted;
+            }
+        });
+        if (stream_->good()) {
+            Quietly([&] { stream_->read(place + count, wanted); });
+            count += static_cast<std::size_t>(stream_->gcount());
+        }
+    }
+    return count;
 }
 
 // Keeps what is ahead, in front of the buffer, and reads behind it.
@@ -94,13 +127,13 @@ void TextInput::ReadBlock() {
         end_ = kept;
     }
     if (!stream_->good()) {
+        hadFailed_ = hadFailed_ || (!hasBegun_ && stream_->fail());
         return;
     }
     if (buffer_.size() < kept + blockSize) {
         buffer_.resize(std::max(2 * blockSize, 2 * buffer_.size()));
     }
-    stream_->read(buffer_.data() + kept, static_cast<std::streamsize>(buffer_.size() - kept));
-    end_ = kept + static_cast<std::size_t>(stream_->gcount());
+    end_ = kept + ReadInto(buffer_.data() + kept, buffer_.size() - kept);
     if (!hasBegun_) {
         hasBegun_ = true;
         const std::string_view head(buffer_.data(), end_);

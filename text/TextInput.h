@@ -27,7 +27,8 @@ std::string WhatIsOdd(TextKind kind);
 /// object's size depends on the longest piece that somebody asked for, not on the text's.
 ///
 /// A byte order mark at the head of the text is passed over. The stream belongs to the caller and
-/// outlives the object, which reads ahead of what it gives. One thread at a time.
+/// outlives the object, which reads ahead of what it gives. Its exception mask stays as it is and
+/// plays no part: what the mask would have thrown, `HasFailed` says. One thread at a time.
 class TextInput {
 public:
     explicit TextInput(std::istream& stream) : stream_(&stream) {}
@@ -57,13 +58,15 @@ public:
     void MoveTo(std::uint64_t offset);
 
     /// Whether a read failed: what looks like the end of the text isn't.
-    bool HasFailed() const noexcept { return stream_->bad(); }
+    /// A stream that had failed before anything was read counts as well.
+    bool HasFailed() const noexcept { return hadFailed_ || stream_->bad(); }
 
     /// What the first block looks like; reads it if it wasn't read.
     TextKind Kind();
 
 private:
     void ReadBlock();
+    std::size_t ReadInto(char* place, std::size_t size);
 
     std::istream* stream_;
     std::vector<char> buffer_;
@@ -71,6 +74,7 @@ private:
     std::size_t begin_ = 0; // of what is ahead
     std::size_t end_ = 0;
     bool hasBegun_ = false;
+    bool hadFailed_ = false; // the stream, when it came
     TextKind kind_ = TextKind::Plain;
 };
 

@@ -34,6 +34,9 @@ std::optional<char> EnvelopeLines::Separator() {
     constexpr std::size_t shortestLetterLine = 4; // "T,P,"
     const std::string& letters = head_.back();
     if (letters.size() < shortestLetterLine || (letters[1] != ',' && letters[1] != '\t')) {
+        if (reader_.HasFailed()) { // which was told
+            return std::nullopt;
+        }
         diagnostics_.Tell(EnvelopeKinds::noSeparator, headSize_,
                           "Expected 'T,P,T,P,T,P,' or the like as the sixth line, whose second "
                           "character, a comma or a tab, tells the separator; found " +

@@ -8,6 +8,7 @@
 #include "Quote.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace Orv::FluidBench::Impl::IO {
 
@@ -32,6 +33,33 @@ bool HasDigit(std::string_view text) {
 // What makes a vapour fraction of a heading.
 bool HoldsNumber(std::string_view heading) {
     return HasDigit(heading) || heading.find('.') != std::string_view::npos;
+}
+
+// A spreadsheet fills its lines up with separators.
+std::string_view WithoutPadding(std::string_view text) {
+    return text.substr(0, text.find_last_not_of(", \t") + 1);
+}
+
+// What a units line tells, without blanks, quotes and padding, and with commas for tabs. Nothing
+// where the line is another one: people spell its key in several ways.
+std::optional<std::string> UnitsOf(std::string_view line) {
+    constexpr std::string_view key = "unit";
+    std::string text(WithoutPadding(line));
+    std::erase_if(text, [](char c) { return c == ' ' || c == '"' || c == '\''; });
+    std::ranges::replace(text, '\t', ',');
+    const bool hasKey = text.size() >= key.size() &&
+                        std::ranges::equal(std::string_view(text).substr(0, key.size()), key, {},
+                                           [](char c) { return static_cast<char>(c | 0x20); });
+    std::size_t end = key.size();
+    if (hasKey && end < text.size() && (text[end] == 's' || text[end] == 'S')) {
+        ++end;
+    }
+    if (!hasKey ||
+        (end < text.size() && std::string_view(":=,;").find(text[end]) == std::string_view::npos)) {
+        return std::nullopt;
+    }
+    text.erase(0, text.find_first_not_of(":=,;", end));
+    return text;
 }
 
 // Takes the text ahead of the next separator off a line. False where there is no separator.
@@ -69,15 +97,10 @@ void PhaseEnvelopeWatch::OutsideBlock() {
 }
 
 void PhaseEnvelopeWatch::AheadOfHeadings() {
-    constexpr std::string_view key = "Units:";
-    const std::string_view line = WithoutBlanks(*lines_.Line());
-    if (!line.starts_with(key)) {
-        return;
-    }
-    std::string units(line.substr(key.size()));
-    std::erase(units, ' ');
-    if (!units.empty() && units != "T(K),P(Pa)") {
-        Tell(EnvelopeKinds::otherUnits, "Expected the units 'T(K), P(Pa)', found " + Quote(line) +
+    const auto units = UnitsOf(*lines_.Line());
+    if (units && !units->empty() && *units != "T(K),P(Pa)") {
+        Tell(EnvelopeKinds::otherUnits, "Expected the units 'T(K), P(Pa)', found " +
+                                            Quote(WithoutPadding(*lines_.Line())) +
                                             "; the numbers are taken as K and Pa all the same.");
     }
 }
@@ -100,6 +123,9 @@ void PhaseEnvelopeWatch::Headings(const std::vector<PTline>& lines) {
     }
     if (!WithoutBlanks(rest).empty()) {
         headings.push_back(WithoutBlanks(rest));
+    }
+    while (!headings.empty() && headings.back().empty()) { // a spreadsheet's padding
+        headings.pop_back();
     }
     if (!hasDigits_) { // these explain the rest
         Order(headings, lines);
