@@ -24,7 +24,7 @@ const std::string header = "BEGIN HEADER\nEND HEADER\n";
 // Twenty columns, one of them behind the station's name: GOR 900, 50.5 % C1 and so on.
 std::string MainRow(const std::string& well, const std::string& depth) {
     return "1 \"" + well + "\" " + depth +
-           " 1 900 50.5 -8 12 29 0.5 \"S\" 0.7 9 10 11 12 13 14 15 16 -40 18 19\n";
+           " 1 900 50.5 8 12 29 0.5 \"S\" 0.7 9 10 11 12 13 14 15 16 40 18 19\n";
 }
 std::string PressureRow(const std::string& well, const std::string& depth,
                         const std::string& pressure) {
@@ -105,7 +105,7 @@ TEST_F(DfaTest, KeepsFileOrderAtEqualDepthAndTakesTheLastPressure) {
 }
 
 TEST_F(DfaTest, ReadsTheColumnsOfARowAcrossItsQuotes) {
-    const std::string tail = " 1 900 50.5 -8 12 29 0.5 0.7 9 10 11 12 13 14 15 16 -40 18 19";
+    const std::string tail = " 1 900 50.5 8 12 29 0.5 0.7 9 10 11 12 13 14 15 16 40 18 19";
     struct Case {
         const char* meaning;
         std::string line;
@@ -116,8 +116,9 @@ TEST_F(DfaTest, ReadsTheColumnsOfARowAcrossItsQuotes) {
         {"numbers on both sides", "\"A\" 6 \"S\" " + tail.substr(1), "A: 6", "3:no-pressure"},
         {"numbers behind the second text alone", "\"A\"\"S\" 6" + tail, "A: 6", "3:no-pressure"},
         {"a number that goes on behind the text", "\"A\" 6\"S\" 1" + tail, "A: 61",
-         "3:no-pressure"},
-        {"any one character is cut off", "\"A\"x6" + tail + "\"S\"", "A: 6", "3:no-pressure"},
+         "3:no-blank 3:no-pressure"},
+        {"any one character is cut off", "\"A\"96" + tail + "\"S\"x", "A: 6",
+         "3:no-blank 3:no-blank 3:no-pressure"},
         {"letters behind a number", "\"A\" 6ft" + tail + "\"S\"", "A: 6",
          "3:text-behind-number 3:no-pressure"},
         {"more columns than needed", "\"A\" 6" + tail + " 20 21 \"S\" x", "A: 6",
@@ -196,6 +197,16 @@ TEST_F(DfaTest, TellsOfWellsAndValues) {
     EXPECT_EQ(told, "3:other-text 7:absent-value FT3:absent-value FT5:absent-value FT6:short-row "
                     "7:well-returns 8:no-pressure");
     EXPECT_EQ(Depths(), "A: 1; B: 2; A: -999 3");
+
+    reader = DFAReader();
+    const std::string row = MainRow("A", "5");
+    std::string other = row;
+    other.replace(other.find("900"), 3, "901");
+    ASSERT_TRUE(Import(header + row + other + row,
+                       header + PressureRow("A", "5", "1") + PressureRow("A", "6", "2") +
+                           PressureRow("B", "5", "3") + PressureRow("A", "5", "4")));
+    EXPECT_EQ(told, "5:row-twice FT3:row-twice FT4:pressure-unused FT5:pressure-unused");
+    EXPECT_EQ(Depths(), "A: 5 5 5");
 }
 
 TEST_F(DfaTest, RefusesFilesThatFail) {
@@ -266,8 +277,15 @@ TEST_F(DfaTest, ReadsTheSampleWithAnyLineEndsInAnyLocale) {
 }
 
 TEST_F(DfaTest, BuildsRawFluidsAndAnExperiment) {
-    ASSERT_TRUE(Import(header + MainRow("A", "200") + MainRow("A", "-100"),
-                       header + PressureRow("A", "200", "3000")));
+    std::string rows = MainRow("A", "200") + MainRow("A", "-100");
+    for (const std::string number : {" 8", " 40"}) { // none of them counts
+        for (std::size_t at = 0; (at = rows.find(number + ' ', at)) != std::string::npos; ++at) {
+            rows.insert(at + 1, "-");
+        }
+    }
+    ASSERT_TRUE(Import(header + rows, header + PressureRow("A", "200", "3000")));
+    EXPECT_EQ(told, "3:negative-value 3:negative-value 4:negative-value 4:negative-value "
+                    "4:negative-value 4:no-pressure");
     const auto fluid = reader.GetRawFluid(1);
     EXPECT_EQ(fluid.GetName(), "DFA raw fluid");
     EXPECT_EQ(static_cast<int>(fluid.GetComponentFractionType()), 1);

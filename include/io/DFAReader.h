@@ -106,7 +106,9 @@ private:
     bool ImportData(std::istream& main, Impl::IO::Diagnostics& ofMain, std::istream& pressures,
                     Impl::IO::Diagnostics& ofPressures);
     std::vector<WellData> ExtractDataOfInterest(const std::vector<std::uint64_t>& lines,
-                                                Impl::IO::Diagnostics& ofMain) const;
+                                                Impl::IO::Diagnostics& ofMain,
+                                                const std::vector<std::uint64_t>& pressureLines,
+                                                Impl::IO::Diagnostics& ofPressures) const;
 
     std::vector<int> SortStations(std::vector<double> depths) const;
     std::vector<int> SortStations() const;

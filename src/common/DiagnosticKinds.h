@@ -89,6 +89,10 @@ inline constexpr DiagnosticKind textBehindNumber {"dfa.text-behind-number", Warn
 inline constexpr DiagnosticKind absentValue      {"dfa.absent-value", Warning};
 inline constexpr DiagnosticKind noPressure       {"dfa.no-pressure", Warning};
 inline constexpr DiagnosticKind wellReturns      {"dfa.well-returns", Warning};
+inline constexpr DiagnosticKind noBlank          {"dfa.no-blank", Warning};
+inline constexpr DiagnosticKind negativeValue    {"dfa.negative-value", Warning};
+inline constexpr DiagnosticKind rowTwice         {"dfa.row-twice", Warning};
+inline constexpr DiagnosticKind pressureUnused   {"dfa.pressure-unused", Note};
 inline constexpr DiagnosticKind otherText        {"dfa.other-text", Note};
 
 } // namespace DfaKinds

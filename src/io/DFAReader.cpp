@@ -10,6 +10,7 @@
 #include "Quote.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <numeric>
 #include <stdexcept>
@@ -157,6 +158,63 @@ void Append(std::vector<WellData>& wells, std::vector<WellData>& more) {
     std::ranges::move(more, std::back_inserter(wells));
 }
 
+// Rows of the main file that are there already.
+void TellOfCopies(const UsableRows& stations, const Data& data,
+                  const std::vector<std::uint64_t>& lines, Diagnostics& diagnostics) {
+    const auto rowOf = [&](std::size_t i) -> const auto& {
+        return data.rows[stations.indices[i]];
+    };
+    const auto hash = [&](std::size_t i) {
+        std::size_t value = std::hash<std::string_view>()(stations.places[i].well);
+        for (const double number : rowOf(i)) {
+            value = 31 * value + std::hash<double>()(number);
+        }
+        return value;
+    };
+    const auto isSame = [&](std::size_t a, std::size_t b) {
+        return stations.places[a].well == stations.places[b].well && rowOf(a) == rowOf(b);
+    };
+    const std::size_t count = stations.indices.size();
+    std::unordered_set<std::size_t, decltype(hash), decltype(isSame)> rows(count, hash, isSame);
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto [first, isNew] = rows.insert(i);
+        if (!isNew) {
+            diagnostics.Tell(DfaKinds::rowTwice, lines[stations.indices[i]],
+                             "Expected each row once, found the numbers of line " +
+                                 std::to_string(lines[stations.indices[*first]]) +
+                                 " again; they make a second station.");
+        }
+    }
+}
+
+// `matches` are those of the stations among the readings.
+void TellOfReadings(const UsableRows& stations, const UsableRows& readings,
+                    const std::vector<std::size_t>& matches,
+                    const std::vector<std::uint64_t>& lines, Diagnostics& diagnostics) {
+    std::vector<bool> isUsed(readings.places.size());
+    for (const std::size_t match : matches) {
+        if (match != noMatch) {
+            isUsed[match] = true;
+        }
+    }
+    const std::vector<std::size_t> stationOf =
+        LastMatches(readings.places, stations.places, depthTolerance);
+    for (std::size_t i = 0; i < isUsed.size(); ++i) {
+        const std::uint64_t line = lines[readings.indices[i]];
+        if (stationOf[i] == noMatch) {
+            diagnostics.Tell(DfaKinds::pressureUnused, line,
+                             "Expected a station of the well " +
+                                 Text::Quote(readings.places[i].well) +
+                                 " at this depth in the main file, found none; the pressure isn't "
+                                 "used.");
+        } else if (!isUsed[i]) {
+            diagnostics.Tell(DfaKinds::rowTwice, line,
+                             "Expected one pressure for each well and depth, found another one "
+                             "further down; that one is taken.");
+        }
+    }
+}
+
 // `matches` as `LastMatches` gave them, and the lines of the main file's rows.
 void TellOfStations(const UsableRows& stations, const std::vector<std::size_t>& matches,
                     const std::vector<std::uint64_t>& lines, Diagnostics& diagnostics) {
@@ -246,7 +304,8 @@ bool DFAReader::ImportData(std::istream& main, Diagnostics& ofMain, std::istream
         mainRows ? ReadDfaExport(pressures, Impl::IO::pressureFile, ofPressures) : std::nullopt;
     if (pressureRows) {
         pressureData = std::move(pressureRows->data);
-        std::vector<WellData> found = ExtractDataOfInterest(mainRows->lines, ofMain);
+        std::vector<WellData> found =
+            ExtractDataOfInterest(mainRows->lines, ofMain, pressureRows->lines, ofPressures);
         SortStations(found);
         Append(wells, found);
     }
@@ -255,8 +314,10 @@ bool DFAReader::ImportData(std::istream& main, Diagnostics& ofMain, std::istream
     return pressureRows.has_value();
 }
 
-std::vector<WellData> DFAReader::ExtractDataOfInterest(const std::vector<std::uint64_t>& lines,
-                                                       Diagnostics& ofMain) const {
+std::vector<WellData>
+DFAReader::ExtractDataOfInterest(const std::vector<std::uint64_t>& lines, Diagnostics& ofMain,
+                                 const std::vector<std::uint64_t>& pressureLines,
+                                 Diagnostics& ofPressures) const {
     const UsableRows stations = UsableRowsOf(mainData, Impl::IO::mainFile);
     const UsableRows readings = UsableRowsOf(pressureData, Impl::IO::pressureFile);
     const std::vector<std::size_t> matches =
@@ -278,6 +339,8 @@ std::vector<WellData> DFAReader::ExtractDataOfInterest(const std::vector<std::ui
     }
     if (ofMain.AreWanted()) {
         TellOfStations(stations, matches, lines, ofMain);
+        TellOfCopies(stations, mainData, lines, ofMain);
+        TellOfReadings(stations, readings, matches, pressureLines, ofPressures);
     }
     return found;
 }

@@ -107,13 +107,15 @@ public:
         : diagnostics_(diagnostics), lines_(lines), file_(file) {}
 
     void NotARow(std::string_view line);
-    void Row(std::string_view text, const std::vector<double>& numbers);
+    void Row(const RowText& row, const std::vector<double>& numbers);
     void SecondHeader(std::size_t rows);
     void MissingMark(const char* mark);
     void OpenHeader();
 
 private:
+    void Blanks(const RowText& row);
     void Part(std::string_view part, std::size_t column);
+    void Value(const DfaColumn& column, double value);
     void Tell(const DiagnosticKind& kind, const std::string& sentence) {
         diagnostics_.Tell(kind, lines_.Number(), sentence);
     }
@@ -134,15 +136,17 @@ void Watch::NotARow(std::string_view line) {
     }
 }
 
-void Watch::Row(std::string_view text, const std::vector<double>& numbers) {
+void Watch::Row(const RowText& row, const std::vector<double>& numbers) {
+    Blanks(row);
+    const std::string text = NumberTextOf(row);
     std::size_t column = 0;
     std::size_t begin = 0;
     for (; column < numbers.size(); ++column) {
         const std::size_t end = std::min(text.find(' ', begin), text.size());
-        Part(text.substr(begin, end - begin), column);
+        Part(std::string_view(text).substr(begin, end - begin), column);
         begin = std::min(end + 1, text.size());
     }
-    const std::string_view rest = text.substr(begin);
+    const std::string_view rest = std::string_view(text).substr(begin);
     if (!Text::WithoutBlanks(rest).empty()) {
         const std::string_view part = rest.substr(0, rest.find(' '));
         Tell(DfaKinds::rowCut,
@@ -156,14 +160,42 @@ void Watch::Row(std::string_view text, const std::vector<double>& numbers) {
                                      std::to_string(numbers.size()) + "; the row is skipped.");
         return;
     }
-    for (const auto& [index, name] : file_.columnsRead) {
-        if (std::ranges::find(absentValues, numbers[index]) != std::end(absentValues)) {
-            std::string value;
-            Text::AppendNumber(value, numbers[index], {});
-            Tell(DfaKinds::absentValue, std::string("Expected a measured ") + name + ", found " +
-                                            value +
-                                            ", which stands for none as a rule; it is taken.");
+    for (const DfaColumn& each : file_.columnsRead) {
+        if (numbers[each.index] < 0.0) {
+            Value(each, numbers[each.index]);
         }
+    }
+}
+
+// Of a negative value, as those that stand for none are, too.
+void Watch::Value(const DfaColumn& column, double value) {
+    std::string found;
+    Text::AppendNumber(found, value, {});
+    if (std::ranges::find(absentValues, value) != std::end(absentValues)) {
+        Tell(DfaKinds::absentValue, std::string("Expected a measured ") + column.name + ", found " +
+                                        found + ", which stands for none as a rule; it is taken.");
+    } else {
+        Tell(DfaKinds::negativeValue, std::string("Expected a ") + column.name +
+                                          " of zero or more, found " + found +
+                                          "; it counts as 0 in a fluid or an experiment.");
+    }
+}
+
+// The reader takes off one character behind each quoted text, and puts together what is left.
+void Watch::Blanks(const RowText& row) {
+    for (const std::string_view numbers : {row.firstNumbers, row.lastNumbers}) {
+        if (!numbers.empty() && !Text::IsSpace(numbers.front())) {
+            Tell(DfaKinds::noBlank, "Expected a blank behind the quoted text, found " +
+                                        Quote(numbers.substr(0, 1)) + " ahead of " +
+                                        Quote(numbers.substr(1)) + "; that character isn't read.");
+        }
+    }
+    const std::string_view first = WithoutFirst(row.firstNumbers);
+    const std::string_view last = WithoutFirst(row.lastNumbers);
+    if (!first.empty() && !Text::WithoutBlanks(last).empty() && !Text::IsSpace(first.back())) {
+        Tell(DfaKinds::noBlank, "Expected a blank ahead of the second quoted text, found " +
+                                    Quote(first) +
+                                    "; its last number goes on with what is behind the text.");
     }
 }
 
@@ -267,7 +299,7 @@ void Parser::TakeRow(std::string_view line) {
     rows.push_back(NumbersOf(*row, expected));
     if (diagnostics_.AreWanted()) {
         result_.lines.push_back(lines_.Number());
-        watch_.Row(NumberTextOf(*row), rows.back());
+        watch_.Row(*row, rows.back());
     }
 }
 
