@@ -424,6 +424,20 @@ TEST_F(DeckImportTest, TakesALineAlikeInEveryPlace) {
         {"EOS\nPR // PRCORR\n", "2:text-behind"},
         {"EOS\nPR / -PRCORR\n", "2:text-behind"},
         {"EOS\nPR / prcorr\n", "2:text-behind"},
+        {"MWS\n46 48 /\nSkip 3\n47 49 /\n", "4:further-records"},
+        {"MWS\n46 48 /\nRegion 5 study\n47 49 /\n", "4:further-records"},
+        {"TITLE\nA study\nGRID STUDY\nSOLUTION GAS DRIVE\n", ""},
+        {"1. MW and TCRIT from the lab\n- MW from it\n", ""},
+        {"1. ACF\n0 0.1 /\n", "1:did-you-mean"},
+        {"1) ACF\n0 0.1 /\n", "1:did-you-mean"},
+        {"1.ACF\n0 0.1 /\n", "1:did-you-mean"},
+        {"\u0410\u0421F\n0 0.1 /\n", "1:did-you-mean"},
+        {"\u041C\u0430\u0441\u0441\u0430 W 5 /\n", ""},
+        {"EOS\nPR\nMWS\n46 48 /\n", "3:refused"},
+        {"METRIC units\n", ""},
+        {"FIELD units\n", "1:other-units"},
+        {"TITLE\nA study\nFIELD 5 tests\n", ""},
+        {"RTEMP\n1* /\n", "1:values-missing"},
         {"PROPS  fluid and rock\n", "1:section-ignored"},
         {"Props\n", "1:section-ignored"},
         {"EOS\nSRK /\nEOS\nPR /\n", "3:second-time"},
@@ -459,10 +473,16 @@ TEST_F(DeckImportTest, TakesALineAlikeInEveryPlace) {
         }
     }
     EXPECT_EQ(ReadText("MWS\n46 48 /\nINCLUDE 'mws.inc' /\n" + sound).told, "1:further-records");
+    for (const char* const further : {"C1\nC2\n/\n", "C1 C2 /\n", "c1\nc2 /\n", "CN1 CN2\n/\n"}) {
+        EXPECT_EQ(ReadText(twoComponents + further + rest).told, "3:further-records") << further;
+    }
 }
 
 // What is told of a deck as a whole, and which values it has all the same.
 TEST_F(DeckImportTest, TellsWhatIsNotAsItSeems) {
+    folder.Write("utf16.inc", std::string("\xFF\xFE"
+                                          "M\0W\0\n\0",
+                                          8));
     struct Case {
         std::string text;
         std::vector<double> molecularWeights;
@@ -481,6 +501,11 @@ TEST_F(DeckImportTest, TellsWhatIsNotAsItSeems) {
         {mw + "GRID\nINCLUDE\n'none.inc' /\nPROPS\nMW\n17 31 /\n",
          {17, 31},
          "16:include-missing 19:second-time"},
+        {mw + "GRID\nINCLUDE\n'utf16.inc' /\nINCLUDE\n'/proc/self/mem' /\nMW\n",
+         {16, 30},
+         "16:include-missing 18:include-missing"},
+        {mw + "GRID\nFILEUNIT\nFIELD /\nFILEUNIT\nLAB /\n", {16, 30}, "16:other-units"},
+        {mw + "GRID\nPORPS\nMW\n17 31 /\n'PROPS' /\n", {16, 30}, "16:did-you-mean"},
         {mw + "GRID\nDX\n1 2\nPROPS\nMW\n17 31 /\n",
          {16, 30},
          "18:in-open-record 19:in-open-record"},
@@ -490,6 +515,7 @@ TEST_F(DeckImportTest, TellsWhatIsNotAsItSeems) {
         {mw + "MW\n1* 31 /\n", {0, 31}, "15:second-time 15:values-missing"},
         {mw + "MW\n0 31 /\n", {0, 31}, "15:second-time 15:values-missing"},
         {mw + "SSHIFT\n1* 0 /\nZCRIT\n2* /\nPARACHOR\n2*0 /\n", {16, 30}, "15:values-missing"},
+        {mw + "ZI\n1* 1 /\n", {16, 30}, "15:second-time 15:values-missing"},
         {mw + "ZI\n30 70 /\n", {16, 30}, "15:second-time 15:percentages"},
         {mw + "ZI\n0.3 0.6985 /\n", {16, 30}, "15:second-time 15:fraction-sum"},
         {mw + "ZI\n0.3 0.6995 /\n", {16, 30}, "15:second-time"},

@@ -117,10 +117,15 @@ std::size_t KeywordRecord::ReadWord(std::span<const std::string_view> words, con
         (expected += ' ') += word;
     }
     std::optional<std::size_t> index;
+    std::uint64_t lineOfWord = 0;
     for (Token item = NextItem(expected); item.kind != Kind::Slash; item = NextItem(expected)) {
+        if (index && line_ != lineOfWord) {
+            Fail("'/' behind " + expected, Describe(item));
+        }
         if (index) {
             Fail(expected, Describe(item) + " behind it");
         }
+        lineOfWord = line_;
         const bool isText = item.kind == Kind::Word || item.kind == Kind::Quoted;
         const std::string found = isText ? Capitals(item.text) : std::string();
         const auto word = std::ranges::find(words, found);

@@ -4,6 +4,7 @@
 #include "KeywordLexer.h"
 #include "KeywordSuggestion.h"
 #include "NumberText.h"
+#include "OddCharacters.h"
 #include "Quote.h"
 
 #include <algorithm>
@@ -78,6 +79,21 @@ bool SuitsKeyword(const Token& next) {
     return EndsLine(next) || next.kind == Kind::Slash || IsData(next);
 }
 
+// "1." or "2)" ahead of a keyword in a list.
+bool IsEnumerator(std::string_view text) {
+    const std::size_t digits = text.find_first_not_of("0123456789");
+    return digits > 0 && digits + 1 == text.size() && (text[digits] == '.' || text[digits] == ')');
+}
+
+// What stands behind a word on its line.
+enum class Rest { Nothing, Data, Text };
+
+Rest RestOf(const Token& next) {
+    return EndsLine(next) || next.kind == Kind::Slash ? Rest::Nothing
+           : IsData(next)                             ? Rest::Data
+                                                      : Rest::Text;
+}
+
 // The text of a word that may be meant for a keyword. A longer one is no typing error.
 std::string MayBeKeyword(const Token& token) {
     constexpr std::size_t longest = 40;
@@ -85,11 +101,25 @@ std::string MayBeKeyword(const Token& token) {
     return isText && token.text.size() <= longest ? std::string(token.text) : std::string();
 }
 
+// A word and what decorates it, for a message.
+std::string DescribeWord(const std::string& ornament, const std::string& word) {
+    const bool isForeign = std::ranges::any_of(
+        word, [](char c) { return (static_cast<unsigned char>(c) & 0x80U) != 0; });
+    std::string odd = Text::NameOddCharacter(word);
+    if (odd.empty() && isForeign) {
+        odd = "with a letter of another alphabet";
+    }
+    const std::string where = ornament == "'"    ? " in quotes"
+                              : ornament.empty() ? ""
+                                                 : " behind " + Quote(ornament);
+    return Quote(word) + where + (odd.empty() ? "" : " (" + odd + ')');
+}
+
 // Reads the deck and what it includes, line by line.
 class IndexBuilder {
 public:
     IndexBuilder(const DeckVocabulary& vocabulary, DeckLog& log,
-                 std::vector<KeywordPlace>& keywords);
+                 std::vector<KeywordPlace>& keywords, std::vector<KeywordPlace>& elsewhere);
 
     /// Reads the deck and gives the line on which it ends.
     std::uint64_t Read(KeywordLexer& deck);
@@ -115,6 +145,8 @@ private:
     bool IsKnown(const Token& token) const;
 
     void ReadKnown(KeywordLexer& deck, const std::string& keyword);
+    void NoteElsewhere(const KeywordLexer& deck, const std::string& keyword,
+                       const WantedKeyword& wanted);
     void ReadTitle(KeywordLexer& deck);
     void ReadEnd(KeywordLexer& deck);
     void ReadSkip(KeywordLexer& deck);
@@ -124,6 +156,8 @@ private:
     void ReadUnknown(KeywordLexer& deck, const std::string& keyword);
     void ReadData(KeywordLexer& deck, const Token& first);
     void ReadText(KeywordLexer& deck, const Token& first);
+    void ReadWordOfText(KeywordLexer& deck, const FilePlace& place, const std::string& ornament,
+                        const std::string& word, Token next);
 
     static void RequireData(const KeywordPlace& place, const WantedKeyword& wanted,
                             const Token& first);
@@ -138,10 +172,15 @@ private:
 
     void Remember(KeywordPlace place, const WantedKeyword& wanted);
     bool IsFurtherWord(const std::string& word, const Token& next) const;
+    bool IsOneOfTheNames(const std::string& word) const;
+    void PassFurtherRecord(KeywordLexer& deck, const FilePlace& place, Token next,
+                           const std::string& word);
     void CountFurtherRecord(const FilePlace& place);
     void TellFurtherRecords();
     void TellUnread();
-    void Suspect(const std::string& word, bool isQuoted, const FilePlace& place, const Token& next);
+    void Suspect(const std::string& ornament, const std::string& word, const FilePlace& place,
+                 Rest rest);
+    void TellUnreadable(const FilePlace& line, const std::string& expectation);
 
     static FilePlace PlaceOf(const KeywordLexer& deck) {
         return {deck.File().Name(), deck.File().Line()};
@@ -154,7 +193,7 @@ private:
     };
     // What follows the record of a wanted keyword and isn't read.
     struct Further {
-        std::string keyword; // empty where no wanted keyword stood last
+        KeywordPlace place; // without a keyword where no wanted one stood last
         WantedKeyword wanted{};
         std::uint64_t count = 0;
         FilePlace first;
@@ -163,6 +202,7 @@ private:
     const DeckVocabulary& vocabulary_;
     DeckLog& log_;
     std::vector<KeywordPlace>& keywords_;
+    std::vector<KeywordPlace>& elsewhere_;
     std::vector<std::string_view> suggestions_;
     std::vector<std::filesystem::path> openFiles_; // the deck, and the includes that led here
     std::size_t includes_ = 0;
@@ -187,8 +227,13 @@ const IndexBuilder::Structural* IndexBuilder::FindStructural(std::string_view na
 }
 
 IndexBuilder::IndexBuilder(const DeckVocabulary& vocabulary, DeckLog& log,
-                           std::vector<KeywordPlace>& keywords)
-    : vocabulary_(vocabulary), log_(log), keywords_(keywords), suggestions_(vocabulary.names) {
+                           std::vector<KeywordPlace>& keywords,
+                           std::vector<KeywordPlace>& elsewhere)
+    : vocabulary_(vocabulary),
+      log_(log),
+      keywords_(keywords),
+      elsewhere_(elsewhere),
+      suggestions_(vocabulary.names) {
     suggestions_.emplace_back("INCLUDE");
     for (const Section& section : sections) {
         suggestions_.push_back(section.name);
@@ -247,12 +292,20 @@ void IndexBuilder::ReadKnown(KeywordLexer& deck, const std::string& keyword) {
     } else if (MayHoldFluidData()) {
         ReadWanted(deck, keyword, *vocabulary_.find(keyword));
     } else {
-        const bool isNew = std::ranges::none_of(
-            unread_, [&](const Unread& u) { return u.place.keyword == keyword; });
-        if (isNew && vocabulary_.find(keyword)->data != KeywordData::None) {
-            unread_.push_back({{keyword, PlaceOf(deck), 0, {}}, section_->name});
-        }
+        NoteElsewhere(deck, keyword, *vocabulary_.find(keyword));
         ReadUnknown(deck, keyword);
+    }
+}
+
+void IndexBuilder::NoteElsewhere(const KeywordLexer& deck, const std::string& keyword,
+                                 const WantedKeyword& wanted) {
+    const KeywordPlace place{keyword, PlaceOf(deck), deck.File().Offset(), {}};
+    const bool isNew =
+        std::ranges::none_of(unread_, [&](const Unread& u) { return u.place.keyword == keyword; });
+    if (wanted.isOfWholeDeck) {
+        elsewhere_.push_back(place);
+    } else if (isNew && wanted.data != KeywordData::None) {
+        unread_.push_back({place, section_->name});
     }
 }
 
@@ -334,7 +387,8 @@ void IndexBuilder::ReadSection(KeywordLexer& deck, const Section& section) {
     const Token next = deck.Next();
     const bool isOrnament = next.kind == Kind::Word && !IsLetter(next.text[0]) && !IsData(next);
     const bool counts = EndsLine(next) || next.kind == Kind::Slash || isOrnament;
-    if (!counts) {
+    // As a line of a title it takes nothing away.
+    if (!counts && !(isBehindTitle_ && MayHoldFluidData())) {
         log_.Tell(Problems::sectionIgnored, place,
                   std::string(section.name) + " doesn't begin that section because of " +
                       Describe(next) + " behind it: put '--' ahead of the text.");
@@ -355,7 +409,9 @@ void IndexBuilder::ReadWanted(KeywordLexer& deck, const std::string& keyword,
     TellFurtherRecords();
     KeywordPlace place{keyword, PlaceOf(deck), deck.File().Offset(), {}};
     Token next = deck.Next();
-    if (isBehindTitle_ && !SuitsKeyword(next)) {
+    const bool isText =
+        wanted.data == KeywordData::None ? RestOf(next) != Rest::Nothing : !SuitsKeyword(next);
+    if (isBehindTitle_ && isText) {
         place.remark = "only one line behind TITLE is text: begin a second one with '--'";
     }
     isBehindTitle_ = false;
@@ -364,7 +420,7 @@ void IndexBuilder::ReadWanted(KeywordLexer& deck, const std::string& keyword,
     }
     RequireData(place, wanted, next);
     behind_ = Behind::Ended;
-    further_ = {keyword, wanted, 0, {}};
+    further_ = {place, wanted, 0, {}};
     if (next.kind == Kind::Slash || wanted.data == KeywordData::None) {
         PassRestOfLine(deck, next, keyword);
     } else {
@@ -394,13 +450,12 @@ void IndexBuilder::ReadUnknown(KeywordLexer& deck, const std::string& keyword) {
     const bool wasText = behind_ == Behind::Text;
     const Token next = deck.Next();
     if (IsFurtherWord(keyword, next)) {
-        CountFurtherRecord(place);
-        PassRestOfLine(deck, next, keyword);
+        PassFurtherRecord(deck, place, next, keyword);
         return;
     }
     TellFurtherRecords();
     if (!vocabulary_.find(keyword)) {
-        Suspect(keyword, false, place, next);
+        Suspect("", keyword, place, RestOf(next));
     }
     behind_ = EndsLine(next) ? Behind::Waiting : Behind::Ended;
     Record record = Record::Closed;
@@ -433,10 +488,16 @@ void IndexBuilder::ReadData(KeywordLexer& deck, const Token& first) {
         const std::string word = MayBeKeyword(first);
         next = deck.Next();
         if (next.kind != Kind::Quoted) {
-            Suspect(word, true, place, {Kind::LineEnd, {}, false});
+            Suspect("'", word, place, Rest::Nothing);
         }
     } else {
+        const std::string enumerator(IsEnumerator(first.text) ? first.text : std::string_view());
         next = deck.Next();
+        if (!enumerator.empty() && IsInCapitals(next)) {
+            const std::string word = MayBeKeyword(next);
+            ReadWordOfText(deck, place, enumerator, word, deck.Next());
+            return;
+        }
     }
     const Record record = ReadRestOfDataLine(deck, next);
     if (record == Record::None) {
@@ -452,22 +513,30 @@ void IndexBuilder::ReadData(KeywordLexer& deck, const Token& first) {
 
 void IndexBuilder::ReadText(KeywordLexer& deck, const Token& first) {
     const FilePlace place = PlaceOf(deck);
-    std::string word = MayBeKeyword(first);
-    bool isDecorated = false;
-    Token next = deck.Next();
+    const std::string word = MayBeKeyword(first);
+    const Token next = deck.Next();
     if (IsFurtherWord(Text::Capitals(word), next)) {
-        CountFurtherRecord(place);
-        PassRestOfLine(deck, next, word);
-        return;
+        PassFurtherRecord(deck, place, next, word);
+    } else if ((BareKeyword(word).empty() || IsEnumerator(word)) && IsInCapitals(next)) { // "- MW"
+        const std::string behind = MayBeKeyword(next);
+        ReadWordOfText(deck, place, word, behind, deck.Next());
+    } else {
+        ReadWordOfText(deck, place, "", word, next);
     }
-    if (BareKeyword(word).empty() && IsInCapitals(next)) { // "- MW"
-        word = next.text;
-        next = deck.Next();
-        isDecorated = true;
-    }
-    Suspect(word, isDecorated, place, next);
-    if (!EndsLine(next)) {
+}
+
+// The rest of a line of text that begins with the word, or with an ornament and the word.
+void IndexBuilder::ReadWordOfText(KeywordLexer& deck, const FilePlace& place,
+                                  const std::string& ornament, const std::string& word,
+                                  Token next) {
+    Rest rest = RestOf(next);
+    if (rest == Rest::Data) {
+        rest = ReadRestOfDataLine(deck, next) == Record::None ? Rest::Text : Rest::Data;
+    } else if (!EndsLine(next)) {
         deck.SkipLine();
+    }
+    if (ornament.empty() || rest != Rest::Text) {
+        Suspect(ornament, word, place, rest);
     }
     behind_ = Behind::Text;
 }
@@ -581,12 +650,24 @@ void IndexBuilder::ReadInclude(KeywordLexer& deck) {
         }
         PassRestOfLine(deck, behind, "the slash");
     }
-    if (included != nullptr) {
+    if (included == nullptr) {
+        return;
+    }
+    const std::size_t depth = openFiles_.size();
+    try {
         ReadFile(*included);
+    } catch (const KeywordError&) {
+        throw;
+    } catch (const KeywordFileError& error) {
+        if (MayHoldFluidData()) {
+            throw;
+        }
+        openFiles_.resize(depth);
+        TellUnreadable(line, Quote(included->File().Name()) + ": " + error.Sentence());
     }
 }
 
-// Null for a file that is missing where no wanted keyword could stand in it.
+// Null for a file that can't be read where no wanted keyword could stand in it.
 std::unique_ptr<KeywordLexer> IndexBuilder::Open(const std::string& path, bool isQuoted,
                                                  const FilePlace& line) {
     // A path of another system has other slashes.
@@ -604,8 +685,14 @@ std::unique_ptr<KeywordLexer> IndexBuilder::Open(const std::string& path, bool i
                                    "one more, " + Quote(path));
             }
             return included;
-        } catch (const KeywordFileError&) {
+        } catch (const KeywordError&) {
             throw;
+        } catch (const KeywordFileError& error) {
+            if (MayHoldFluidData()) {
+                throw;
+            }
+            TellUnreadable(line, Quote(path) + ": " + error.Sentence());
+            return nullptr;
         } catch (const std::runtime_error& error) {
             reason = reason.empty() ? error.what() + (", " + Quote(path)) : reason;
         }
@@ -615,10 +702,14 @@ std::unique_ptr<KeywordLexer> IndexBuilder::Open(const std::string& path, bool i
     if (MayHoldFluidData()) {
         throw KeywordError(line, "INCLUDE", expected, reason);
     }
-    log_.Tell(Problems::includeMissing, line,
-              "keyword INCLUDE: expected " + expected + ", found " + reason +
-                  "; no fluid data can stand in section " + std::string(section_->name) + '.');
+    TellUnreadable(line, "expected " + expected + ", found " + reason + '.');
     return nullptr;
+}
+
+void IndexBuilder::TellUnreadable(const FilePlace& line, const std::string& expectation) {
+    log_.Tell(Problems::includeMissing, line,
+              "keyword INCLUDE: " + expectation + " No fluid data can stand in section " +
+                  std::string(section_->name) + '.');
 }
 
 void IndexBuilder::RequireSoundInclude(const std::string& path, const FilePlace& line) {
@@ -661,7 +752,7 @@ void IndexBuilder::Remember(KeywordPlace place, const WantedKeyword& wanted) {
 // Further records of words can't be told from keywords by their looks.
 bool IndexBuilder::IsFurtherWord(const std::string& word, const Token& next) const {
     const WantedKeyword& wanted = further_.wanted;
-    if (further_.keyword.empty() || behind_ != Behind::Ended) {
+    if (further_.place.keyword.empty() || behind_ != Behind::Ended) {
         return false;
     }
     const bool isWord = wanted.data == KeywordData::Word &&
@@ -671,11 +762,34 @@ bool IndexBuilder::IsFurtherWord(const std::string& word, const Token& next) con
     // The names of components have digits, and words of another keyword hardly ever.
     const bool isRowOfNames = wanted.data == KeywordData::Names && next.kind == Kind::Word &&
                               !IsData(next) && std::ranges::any_of(word, IsDigit);
-    return isWord || isRowOfNames;
+    const bool isNameAlone =
+        wanted.data == KeywordData::Names && EndsLine(next) && IsOneOfTheNames(word);
+    return isWord || isRowOfNames || isNameAlone;
+}
+
+bool IndexBuilder::IsOneOfTheNames(const std::string& word) const {
+    constexpr std::size_t mostNames = std::size_t{1} << 20;
+    const auto names = KeywordRecord(further_.place).ReadNames({0, mostNames, "names"});
+    return std::ranges::any_of(
+        names, [&](const std::string& name) { return Text::Capitals(name) == word; });
+}
+
+// Names may take any number of lines; a word has one.
+void IndexBuilder::PassFurtherRecord(KeywordLexer& deck, const FilePlace& place, Token next,
+                                     const std::string& word) {
+    if (further_.wanted.data != KeywordData::Names) {
+        CountFurtherRecord(place);
+        PassRestOfLine(deck, next, word);
+        return;
+    }
+    constexpr bool isFirm = false;
+    if (SkipRecord(deck, place.line, isFirm)) {
+        CountFurtherRecord(place);
+    }
 }
 
 void IndexBuilder::CountFurtherRecord(const FilePlace& place) {
-    if (!further_.keyword.empty() && ++further_.count == 1) {
+    if (!further_.place.keyword.empty() && ++further_.count == 1) {
         further_.first = place;
     }
 }
@@ -685,7 +799,7 @@ void IndexBuilder::TellFurtherRecords() {
         const bool takesNone = further_.wanted.data == KeywordData::None;
         const std::string count = std::to_string(further_.count);
         log_.Tell(Problems::furtherRecords, further_.first,
-                  "keyword " + further_.keyword + ": expected " +
+                  "keyword " + further_.place.keyword + ": expected " +
                       (takesNone ? "no data" : "one record") + ", found " + count +
                       (takesNone ? "" : " more") + (further_.count == 1 ? " record" : " records") +
                       " behind it; " +
@@ -705,40 +819,46 @@ void IndexBuilder::TellUnread() {
     }
 }
 
-// Tells of a word at the head of a line that may be meant for a keyword. The data behind it aren't
-// those of the keyword ahead, then.
-void IndexBuilder::Suspect(const std::string& word, bool isQuoted, const FilePlace& place,
-                           const Token& next) {
+// Tells of a word at the head of a line, or behind an ornament there, that may be meant for a
+// keyword. A quote for an ornament is one around it. The data behind it aren't those of the keyword
+// ahead, then.
+void IndexBuilder::Suspect(const std::string& ornament, const std::string& word,
+                           const FilePlace& place, Rest rest) {
     const std::string bare = BareKeyword(word);
-    if (bare.empty()) {
-        return;
-    }
-    const bool isWanted = vocabulary_.find(bare).has_value();
-    const bool isSection = FindSection(bare) != nullptr;
     const bool isInSmallLetters = std::ranges::any_of(word, IsSmallLetter);
-    if (isInSmallLetters && !SuitsKeyword(next)) {
+    if (bare.empty() || (isInSmallLetters && rest == Rest::Text)) {
         return; // words in small letters are text, unless a keyword's data follow
     }
-    const bool isDoubtful = isQuoted;
-    const bool isBare = !isQuoted && word.size() == bare.size();
-    const bool differsInLetters =
-        isBare && isInSmallLetters &&
-        (isWanted ? MayHoldFluidData()
-                  : !isDoubtful && (isSection || FindStructural(bare) != nullptr));
-    if (differsInLetters) {
+    const bool isWanted = vocabulary_.find(bare).has_value();
+    const bool isOrnamented = !ornament.empty();
+    const std::string_view meant =
+        isWanted || FindSection(bare) != nullptr || FindStructural(bare) != nullptr
+            ? std::string_view(bare)
+        : isOrnamented ? std::string_view()
+                       : ClosestKeyword(bare, suggestions_);
+    const Section* const section = FindSection(meant);
+    const bool takesNoData =
+        section != nullptr || (FindStructural(meant) != nullptr && meant != "INCLUDE");
+    const bool isTitle = section != nullptr && isBehindTitle_ && MayHoldFluidData();
+    if (meant.empty() || (takesNoData && rest == Rest::Data) || isTitle) {
+        return;
+    }
+    const bool isBare = !isOrnamented && word.size() == bare.size();
+    if (isBare && isInSmallLetters && meant == bare && (!isWanted || MayHoldFluidData())) {
         TellFurtherRecords();
-        log_.Tell(isSection ? Problems::sectionIgnored : Problems::smallLetters, place,
+        log_.Tell(section != nullptr ? Problems::sectionIgnored : Problems::smallLetters, place,
                   Quote(word) + " isn't taken for the keyword " + bare +
                       " because it isn't in capitals.");
         return;
     }
-    const std::string_view meant = isWanted || isSection ? std::string_view(bare)
-                                   : isDoubtful          ? std::string_view()
-                                                         : ClosestKeyword(bare, suggestions_);
-    if (MayHoldFluidData() && !meant.empty() && (isWanted || !isDoubtful)) {
+    // Where no fluid data can stand, a section that may hold some matters all the same.
+    const bool matters = MayHoldFluidData() || (section != nullptr && section->mayHoldFluidData &&
+                                                !isOrnamented && rest == Rest::Nothing);
+    const bool isStructural = FindStructural(meant) != nullptr && meant != "INCLUDE";
+    if (matters && !isStructural) {
         TellFurtherRecords();
         log_.Tell(Problems::didYouMean, place,
-                  "expected a keyword, found " + Quote(word) + ": did you mean " +
+                  "expected a keyword, found " + DescribeWord(ornament, word) + ": did you mean " +
                       std::string(meant) + "? It isn't read.");
     }
 }
@@ -755,7 +875,7 @@ DeckIndex::DeckIndex(const std::string& fileName, const DeckVocabulary& vocabula
     } catch (const std::runtime_error& error) {
         throw KeywordError(end_, "none", "a deck", error.what());
     }
-    end_.line = IndexBuilder(vocabulary, log, keywords_).Read(*deck);
+    end_.line = IndexBuilder(vocabulary, log, keywords_, elsewhere_).Read(*deck);
 }
 
 } // namespace Orv::Kes::KesModel

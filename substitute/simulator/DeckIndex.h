@@ -28,6 +28,7 @@ struct WantedKeyword {
     KeywordData data;
     std::span<const std::string_view> words{}; ///< of which its record has one, in capitals
     std::string (*advise)(std::string_view word) = nullptr; ///< on another word; may be null
+    bool isOfWholeDeck = false; ///< says something in sections too that hold none
 };
 
 /// The keywords that somebody wants.
@@ -73,19 +74,24 @@ public:
     /// Throws `KeywordError` for a deck or an included file that can't be opened, for a wanted
     /// keyword whose record doesn't begin as it should, and for an include that isn't understood,
     /// comes back to a file that is being read, or exceeds the bounds; `ReadFailed` and `OddText`
-    /// for a file that can't be read. An included file that is missing in a section without wanted
-    /// keywords is a warning.
+    /// for a file that can't be read. An included file that is missing, or can't be read, in a
+    /// section without wanted keywords is a warning.
     DeckIndex(const std::string& fileName, const DeckVocabulary& vocabulary, DeckLog& log);
 
     /// The wanted keywords in the order in which they stand in the deck. Of a keyword that stands
     /// more than once it is the last one.
     const std::vector<KeywordPlace>& Keywords() const noexcept { return keywords_; }
 
+    /// The keywords of the whole deck that stand in sections which hold no wanted ones. Whether
+    /// their records are sound isn't known.
+    const std::vector<KeywordPlace>& Elsewhere() const noexcept { return elsewhere_; }
+
     /// Where the deck ends.
     const FilePlace& End() const noexcept { return end_; }
 
 private:
     std::vector<KeywordPlace> keywords_;
+    std::vector<KeywordPlace> elsewhere_;
     FilePlace end_;
 };
 

@@ -110,13 +110,21 @@ void ReadUnits(Fluid& fluid, const KeywordPlace& place, const FluidKeyword& keyw
     fluid.log.KeepUnits(place, KeywordRecord(place).ReadWord(keyword.words) == metric);
 }
 
-// The unit system of the simulation. With text behind it, it may be a part of the title.
+// The unit system of the simulation. With text behind it, it may be a line of the title.
 void KeepUnits(Fluid& fluid, const KeywordPlace& place, const FluidKeyword& keyword) {
-    KeywordLexer deck(place.line.file);
-    deck.MoveTo(place.offset, place.line.line);
-    const Token::Kind next = deck.Next().kind;
-    if (next != Token::Kind::Word && next != Token::Kind::Quoted) {
+    if (place.remark.empty()) {
         fluid.log.KeepUnits(place, keyword.name == unitSystems[metric]);
+    }
+}
+
+// What a deck says of its units counts in every section, as far as it can be understood.
+void KeepUnitsElsewhere(Fluid& fluid, const DeckIndex& index) {
+    for (const KeywordPlace& place : index.Elsewhere()) {
+        try {
+            fluid.log.KeepUnits(place, KeywordRecord(place).ReadWord(unitSystems) == metric);
+        } catch (const KeywordError&) {
+            continue; // data of another section, which are none of the fluid's
+        }
     }
 }
 
@@ -209,10 +217,18 @@ IDepthTable& EmptyCompositionTable(Fluid& fluid) {
 void ReadComposition(Fluid& fluid, const KeywordPlace& place, const FluidKeyword&) {
     IDepthTable& table = EmptyCompositionTable(fluid);
     table.addRow(0.0);
+    std::size_t missing = 0;
     KeywordRecord(place).ReadNumbers(OnePerComponent(fluid),
                                      [&](std::size_t index, const double* number) {
+                                         missing += number == nullptr ? 1 : 0;
                                          table.setValue(0, static_cast<int>(index), OrZero(number));
                                      });
+    if (missing > 0 && missing < fluid.n) {
+        fluid.log.Tell(Problems::valuesMissing, place.line,
+                       "keyword ZI: expected a fraction for each component, found none for " +
+                           std::to_string(missing) + " of " + std::to_string(fluid.n) +
+                           ", taken as zero.");
+    }
 }
 
 // Rows of a depth and one fraction for each component.
@@ -248,6 +264,11 @@ void ReadReservoirTemperature(Fluid& fluid, const KeywordPlace& place, const Flu
                                                  table.setTemperature(0, *number);
                                              }
                                          });
+    if (table.getNumTemperatures() == 0) {
+        fluid.log.Tell(Problems::valuesMissing, place.line,
+                       "keyword RTEMP: expected a temperature, found a default: the fluid comes "
+                       "without one.");
+    }
     if (count > 1) {
         fluid.log.Tell(Problems::furtherRecords, place.line,
                        "keyword RTEMP: expected one temperature, found " + std::to_string(count) +
@@ -409,7 +430,8 @@ DeckVocabulary VocabularyOf(const IFluidsKeywordValidator* validator) {
     vocabulary.find = [counts](std::string_view name) -> std::optional<WantedKeyword> {
         const FluidKeyword* const keyword = Find(name);
         return keyword != nullptr && counts(*keyword)
-                   ? std::optional(WantedKeyword{keyword->data, keyword->words, keyword->advise})
+                   ? std::optional(WantedKeyword{keyword->data, keyword->words, keyword->advise,
+                                                 keyword->handle == ReadUnits})
                    : std::nullopt;
     };
     for (const FluidKeyword& keyword : keywords) {
@@ -433,6 +455,7 @@ void InterpretFluid(const DeckIndex& index, IFluidModels& models, DeckLog& log) 
             keyword.handle(fluid, place, keyword);
         }
     }
+    KeepUnitsElsewhere(fluid, index);
     const bool isCorrected = fluid.isCorrected && fluid.equationOfState == pengRobinson;
     fluid.model.setEquationOfState(isCorrected ? correctedPengRobinson : fluid.equationOfState);
     const bool usesPedersen = fluid.namesPedersen || fluid.lacksViscosityCoefficients;

@@ -22,6 +22,36 @@ constexpr std::string_view otherKeywords[] = {
     "MATRIX", "RGRID",   "RTEMPA",  "SPECHC", "SPECHD", "SPECHS",   "SPECHT", "STEMP",
     "TEMP",   "TNAMES",  "TTEMP",   "WNAMES", "WTEMP",  "XMFVD",    "YIELD",  "YMFVD"};
 
+// Letters of the Cyrillic alphabet that look like Latin ones.
+struct LookAlike {
+    std::string_view cyrillic;
+    char latin;
+};
+constexpr LookAlike lookAlikes[] = {
+    {"\u0410", 'A'}, {"\u0412", 'B'}, {"\u0415", 'E'}, {"\u0406", 'I'}, {"\u041A", 'K'},
+    {"\u041C", 'M'}, {"\u041D", 'H'}, {"\u041E", 'O'}, {"\u0420", 'P'}, {"\u0421", 'C'},
+    {"\u0422", 'T'}, {"\u0425", 'X'}, {"\u0405", 'S'},
+};
+
+// The word with Latin letters for their look-alikes; empty with other letters of that alphabet.
+std::string InLatinLetters(std::string_view word) {
+    std::string latin;
+    while (!word.empty()) {
+        const auto* const letter = std::ranges::find_if(
+            lookAlikes, [&](const LookAlike& l) { return word.starts_with(l.cyrillic); });
+        if (letter != std::end(lookAlikes)) {
+            latin += letter->latin;
+            word.remove_prefix(letter->cyrillic.size());
+        } else if (word[0] == '\xD0' || word[0] == '\xD1') {
+            return {};
+        } else {
+            latin += word[0];
+            word.remove_prefix(1);
+        }
+    }
+    return latin;
+}
+
 std::size_t ErrorsAllowed(std::string_view keyword) noexcept {
     return keyword.size() >= 6 ? 2 : keyword.size() >= 4 ? 1 : 0;
 }
@@ -51,11 +81,19 @@ std::size_t ErrorsBetween(std::string_view a, std::string_view b) noexcept {
 
 } // namespace
 
-std::string BareKeyword(std::string_view word) {
+std::string BareKeyword(std::string_view text) {
+    const std::string latin = InLatinLetters(text);
+    std::string_view word = latin;
     std::string bare;
     const auto begins =
         std::ranges::find_if(word, [](char c) { return Text::IsLetter(c) || Text::IsDigit(c); });
     word.remove_prefix(static_cast<std::size_t>(begins - word.begin()));
+    // "1.MW" and "1)MW"
+    const std::size_t digits = word.find_first_not_of("0123456789");
+    if (digits != std::string_view::npos && digits > 0 &&
+        (word[digits] == '.' || word[digits] == ')')) {
+        word.remove_prefix(digits + 1);
+    }
     for (const char c : word.substr(0, word.find_first_of("([{<:;=,"))) {
         if (Text::IsLetter(c) || Text::IsDigit(c)) {
             bare += c;

@@ -7,10 +7,10 @@
 
 namespace Orv::Kes::KesModel {
 
-/// The word as a keyword would be written: in capitals, without what doesn't belong into one. What
-/// follows a bracket, a colon or an equals sign belongs to a remark. "T-CRIT", "*Tcrit" and
-/// "TCRIT(K)" give "TCRIT".
-std::string BareKeyword(std::string_view word);
+/// The word as a keyword would be written: in Latin capitals, without what doesn't belong into one.
+/// What follows a bracket, a colon or an equals sign belongs to a remark. "T-CRIT", "*Tcrit",
+/// "1.TCRIT" and "TCRIT(K)" give "TCRIT".
+std::string BareKeyword(std::string_view text);
 
 /// The keyword that differs from the word, which is in capitals, by a typing error: one letter
 /// changed, lost, added or swapped with its neighbour where the keyword has four letters or more,
