@@ -22,18 +22,6 @@ if(FLUIDBENCH_LIBFUZZER)
     target_link_options(FluidBenchBuildOptions INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# The standard library takes the compiler longer than a source of ours does. Read once for all rooms,
-# it lets the whole build in half the time; sources still have to include what they use, which every
-# build without the option sees to.
-function(fluidbench_precompile_headers owner)
-    if(FLUIDBENCH_PRECOMPILE_HEADERS)
-        target_precompile_headers(${owner} PRIVATE
-            <algorithm> <array> <charconv> <cmath> <filesystem> <fstream> <functional> <iostream>
-            <map> <memory> <optional> <ranges> <set> <span> <sstream> <stdexcept> <string>
-            <string_view> <system_error> <unordered_map> <utility> <vector>)
-    endif()
-endfunction()
-
 # fluidbench_room(NAME FOLDER [MAY_INCLUDE room_or_directory...])
 #
 # Makes the object library NAME from every source in FOLDER. MAY_INCLUDE names other targets, whose
@@ -45,7 +33,4 @@ function(fluidbench_room name folder)
     target_include_directories(${name} PUBLIC ${folder})
     target_link_libraries(${name} PRIVATE FluidBenchBuildOptions)
     target_link_libraries(${name} PUBLIC ${ROOM_MAY_INCLUDE})
-    if(FLUIDBENCH_PRECOMPILE_HEADERS)
-        target_precompile_headers(${name} REUSE_FROM FluidBenchText)
-    endif()
 endfunction()
