@@ -672,6 +672,54 @@ TEST(DepthAndCompositionKeywords, RowsOfFractions) {
     EXPECT_TRUE(alone.result.at(0).LiquidFractions.empty());
 }
 
+// Writers of several tables: what is read comes back whole, and one alone is the one of old.
+TEST(KeywordFiles, SeveralTablesAreWrittenTogether) {
+    const auto sample = [](const char* name) {
+        return ReadFile(std::string(FLUIDBENCH_EXAMPLE_DATA "/") + name);
+    };
+    const Form precise{Units::METRIC, true, BlackOilWriter::LIVE_OIL_DRY_GAS};
+    const auto regions =
+        ReadSound<IO::BlackOilKeywordReader, Regions>(sample("two-region-black-oil.inc"));
+    const auto writeRegions = [&](const Regions& written) {
+        std::ostringstream out;
+        BlackOilWriter(true).ExportRegions(written, out, precise.units, precise.tables);
+        return out.str();
+    };
+    ASSERT_EQ(regions.size(), 2u);
+    EXPECT_EQ(writeRegions({regions[1]}), Write(regions[1], precise));
+    const auto again = ReadSound<IO::BlackOilKeywordReader, Regions>(writeRegions(regions));
+    ASSERT_EQ(again.size(), 2u);
+    for (std::size_t i = 0; i < 2; ++i) {
+        EXPECT_EQ(Write(again[i], precise), Write(regions[i], precise));
+    }
+
+    using Tables = std::vector<KValuesTable>;
+    const auto tables =
+        ReadSound<IO::KValuesKeywordReader, Tables>(sample("two-temperatures-k-values.inc"));
+    std::ostringstream out;
+    IO::KValuesExportFileWriter(true).ExportTables(tables, out, Units::FIELD);
+    const auto tablesAgain = ReadSound<IO::KValuesKeywordReader, Tables>(out.str());
+    ASSERT_EQ(tablesAgain.size(), 2u);
+    EXPECT_EQ(Write(tablesAgain[1], precise), Write(tables[1], precise));
+
+    using DepthTables = std::vector<IO::DepthTable>;
+    const auto ofDepth =
+        ReadSound<IO::DepthTableReader, DepthTables>(sample("north-flank-depth.inc"));
+    for (const Units::UNIT_TYPE units : {Units::METRIC, Units::FIELD}) {
+        std::ostringstream written;
+        IO::PVOFileWriter().ExportDepthTables(ofDepth, written, units);
+        const auto depthAgain = ReadSound<IO::DepthTableReader, DepthTables>(written.str());
+        ASSERT_EQ(depthAgain.size(), ofDepth.size());
+        for (std::size_t i = 0; i < ofDepth.size(); ++i) {
+            EXPECT_EQ(depthAgain[i].Keyword, ofDepth[i].Keyword);
+            EXPECT_NEAR(depthAgain[i].Values[1][0], ofDepth[i].Values[1][0],
+                        1e-5 * ofDepth[i].Values[1][0]);
+        }
+    }
+    EXPECT_THROW(IO::PVOFileWriter().ExportDepthTables({{"SWFN", {}, {}}}, out, Units::METRIC),
+                 std::invalid_argument);
+}
+
 TEST(KeywordFiles, SamplesAreSound) {
     const auto sample = [](const char* name) {
         return ReadFile(FLUIDBENCH_EXAMPLE_DATA + ("/" + std::string(name)));

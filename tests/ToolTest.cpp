@@ -129,6 +129,99 @@ TEST_F(ToolTest, ShowsConvertsAndCompares) {
     }
 }
 
+// What is written as keywords comes back from commas to the byte, through pipes too, and shows,
+// draws and compares as the same.
+TEST_F(ToolTest, KeywordsBecomeCommasAndKeywordsAgain) {
+    struct RoundTrip {
+        const char* format;
+        const char* input;
+        const char* options; // of the first file with keywords
+        const char* again;   // of that with keywords at the end
+    };
+    const RoundTrip cases[] = {
+        {"blackoil", "@two-region-black-oil.inc", "--region 2", ""},
+        {"blackoil", "@two-region-black-oil.inc", "--region 1 --tables live-wet", ""},
+        {"blackoil", "@reservoir-black-oil.csv", "--to-units field", "--to-units field"},
+        {"blackoil", "oil.csv", "--tables dead-dry", "--tables dead-dry"},
+        {"kvalues", "@two-temperatures-k-values.inc", "", ""},
+        {"kvalues", "@six-component-k-values.csv", "--to-units field", "--to-units field"},
+        {"thermal", "@two-component-thermal.inc", "", ""},
+        {"thermal", "@six-component-thermal.csv", "--to-units field", "--to-units field"},
+        {"depth", "@north-flank-depth.inc", "", ""},
+        {"depth", "@depth-run.csv", "--table ratios --to-units field", "--to-units field"},
+    };
+    ASSERT_EQ(Shell("cp '" + DataPath("tool") + "'/oil.csv .").status, 0);
+    for (const RoundTrip& c : cases) {
+        const std::string format = c.format;
+        const std::string name = format + ' ' + c.input + ' ' + c.options;
+        ASSERT_EQ(Tool(format + " convert " + c.input + " a.inc " + c.options).status, 0) << name;
+        ASSERT_EQ(Shell("TOOL " + format + " convert - - --to csv < a.inc > b.csv").status, 0);
+        const Outcome back =
+            Shell("cat b.csv | TOOL " + format + " convert - - --strict " + c.again);
+        EXPECT_EQ(back.output, ReadFile(folder / "a.inc")) << name;
+        EXPECT_EQ(back.status, 0) << name << back.messages;
+        EXPECT_EQ(Tool("check a.inc b.csv").output,
+                  "a.inc: " + format + ", good\nb.csv: " + format + ", good\n");
+        EXPECT_EQ(Tool(format + " show a.inc --csv --strict").status, 0) << name;
+        if (format == "blackoil" || format == "kvalues") {
+            folder.Write("c.inc", back.output);
+            EXPECT_EQ(Tool(format + " diff a.inc c.inc").status, 0) << name;
+            EXPECT_EQ(Tool(format + " plot a.inc c.inc p.svg").messages, "") << name;
+        }
+    }
+    // All regions and tables at once, as they were.
+    for (const char* const file : {"blackoil convert @two-region-black-oil.inc",
+                                   "kvalues convert @two-temperatures-k-values.inc"}) {
+        const std::string format = std::string(file).substr(0, std::string(file).find(' '));
+        ASSERT_EQ(Tool(std::string(file) + " all.inc --high-precision").status, 0);
+        EXPECT_EQ(Tool(format + " convert all.inc - --high-precision --strict").output,
+                  ReadFile(folder / "all.inc"));
+    }
+    EXPECT_TRUE(Contains(Tool("kvalues show all.inc").output, "temperature  344.261 K"));
+}
+
+TEST_F(ToolTest, TellsWhatAFileOfTablesCantGive) {
+    const std::string regions = "@two-region-black-oil.inc";
+    const std::string water = regions + ": warning: Expected a water density of 1000 kg/m3, which "
+                                        "is what files are written with, found 1020. "
+                                        "[tool.water-density]\n";
+    folder.Write("both.inc", "FILEUNIT\nMETRIC /\nDENSITY\n800 1000 1 /\nPVTO\n10 50 1.1 0.5 /\n/\n"
+                             "PVDO\n50 1.1 0.5\n100 1.0 0.6 /\n");
+    const Case cases[] = {
+        {"blackoil convert @two-region-black-oil.inc out --region 3", 1, "",
+         regions + ": error: Expected a region 3, found 2 in all. [tool.no-such-region]\n"},
+        {"blackoil convert @two-region-black-oil.inc out.csv", 0, "",
+         regions +
+             ": warning: Expected one region, found 2; the first one is taken. --region "
+             "takes another. [tool.first-region]\n" +
+             water},
+        {"blackoil convert @two-region-black-oil.inc out.csv --strict --region 2", 1, "", water},
+        {"blackoil show @reservoir-black-oil.csv --from-units field", 1, "",
+         "@reservoir-black-oil.csv: error: Expected no choice of field units, as the form with "
+         "commas is metric always. [tool.other-units]\n"},
+        {"kvalues show @two-temperatures-k-values.inc --from-units metric", 1, "",
+         "@two-temperatures-k-values.inc:3: error: Expected METRIC units, as were told beside the "
+         "file, found 'FILEUNIT FIELD'. [keywords.units-contradicted]\n"},
+        {"depth convert @north-flank-depth.inc out --table compositions", 0, "", ""},
+        {"depth plot @north-flank-depth.inc out.svg", 0, "out.svg\n", ""},
+    };
+    for (const Case& c : cases) {
+        const Outcome run = Tool(c.arguments);
+        EXPECT_EQ(run.status, c.status) << c.arguments;
+        EXPECT_EQ(run.output, c.output) << c.arguments;
+        EXPECT_EQ(run.messages, c.messages) << c.arguments;
+    }
+    for (const auto& [line, code] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"depth convert out - --table ratios", "tool.no-such-table"},
+             {"blackoil convert both.inc - --tables dead-dry", "tool.table-left-out"},
+             {"blackoil convert @two-region-black-oil.inc - --tables dead-dry",
+              "tool.no-saturation-point"},
+             {"blackoil show @two-component-thermal.inc", "keywords."},
+             {"thermal convert out.csv -", "tool.bad-row"}}) {
+        EXPECT_TRUE(Contains(Tool(line).messages, code)) << line << Tool(line).messages;
+    }
+}
+
 TEST_F(ToolTest, ReadsWhatThereIsAndTellsWhatIsNone) {
     folder.Write("good.csv", blackOil);
     std::filesystem::create_directory(folder / "folder");

@@ -11,7 +11,9 @@
 
 #include <cstdint>
 #include <iosfwd>
+#include <span>
 #include <string>
+#include <vector>
 
 namespace Orv::FluidBench::IO {
 
@@ -58,6 +60,13 @@ public:
                                      Common::Units::UNIT_TYPE units, EXPORT_TYPE exportType,
                                      FILE_TYPE fileType) const;
 
+    /// Writes the tables of several regions in the keyword form: each keyword once, with a record
+    /// or table for each region. With one region the bytes are those of `ExportToFile`. The report
+    /// is empty.
+    Common::ErrorReport ExportRegions(const std::vector<Model::BlackOilTable>& regions,
+                                      std::ostream& out, Common::Units::UNIT_TYPE units,
+                                      EXPORT_TYPE exportType) const;
+
     /// Writes the vapour and then the liquid compositions of the stages against pressure, from the
     /// last stage back to the first, replacing an existing file. A phase that a stage lacks is
     /// written as zeros, one for each component of `fluid`. Pressures are in psi for FIELD and in
@@ -89,6 +98,10 @@ public:
     Model::BlackOilTable GetTableFromCSVFile(std::istream& in, const std::string& name = {}) const;
 
 private:
+    void WriteRegions(std::span<const Model::BlackOilTable> regions, std::ostream& out,
+                      Common::Units::UNIT_TYPE units, EXPORT_TYPE exportType,
+                      FILE_TYPE fileType) const;
+
     bool highPrecision;
     bool readsSaturationPoint = false;
     DiagnosticSink diagnosticSink;

@@ -8,7 +8,9 @@
 
 #include <cstdint>
 #include <iosfwd>
+#include <span>
 #include <string>
+#include <vector>
 
 namespace Orv::FluidBench::IO {
 
@@ -40,7 +42,15 @@ public:
     Common::ErrorReport ExportToFile(const Model::KValuesTable& table, std::ostream& out,
                                      Common::Units::UNIT_TYPE unitType) const;
 
+    /// Writes several tables, of one temperature each for one, behind each other. With one table
+    /// the bytes are those of `ExportToFile`, and so is the report.
+    Common::ErrorReport ExportTables(const std::vector<Model::KValuesTable>& tables,
+                                     std::ostream& out, Common::Units::UNIT_TYPE unitType) const;
+
 private:
+    Common::ErrorReport WriteTables(std::span<const Model::KValuesTable> tables, std::ostream& out,
+                                    Common::Units::UNIT_TYPE unitType) const;
+
     bool highPrecision;
     FILE_TYPE fileType;
 };

@@ -15,6 +15,8 @@
 
 namespace Orv::FluidBench::IO {
 
+struct DepthTable; // in DepthTableReader.h
+
 /// Holds no state: an object may be used any number of times, by one thread at a time. The caller
 /// owns every model object; a file is open only during a call.
 ///
@@ -88,6 +90,12 @@ public:
                                    Experiments::MSTExperiment experiment,
                                    const std::vector<Experiments::Stage>& separatorStages,
                                    std::ostream& out, Common::Units::UNIT_TYPE units) const;
+
+    /// Writes the tables that `DepthTableReader` gives, in their order, in one file: what the three
+    /// operations above write, and any choice of it. The report is empty; a keyword that is none of
+    /// the five throws `std::invalid_argument`.
+    Common::ErrorReport ExportDepthTables(const std::vector<DepthTable>& tables, std::ostream& out,
+                                          Common::Units::UNIT_TYPE units) const;
 
 private:
     /// Whether the rows from `depth` on belong to the liquid below the contact and those before it

@@ -9,6 +9,8 @@
 //     gas rows                 the same for wet gas
 //     the table's end
 //     FILEUNIT
+//
+// Several regions have their records and tables one behind the other below each heading.
 #include "io/BlackOilExportFileWriter.h"
 
 #include "BlackOilFormatters.h"
@@ -119,40 +121,62 @@ ErrorReport BlackOilExportFileWriter::ExportToFile(const BlackOilTable& table,
 ErrorReport BlackOilExportFileWriter::ExportToFile(const BlackOilTable& table, std::ostream& out,
                                                    Units::UNIT_TYPE units, EXPORT_TYPE exportType,
                                                    FILE_TYPE fileType) const {
+    WriteRegions({&table, 1}, out, units, exportType, fileType);
+    return {};
+}
+
+ErrorReport BlackOilExportFileWriter::ExportRegions(const std::vector<BlackOilTable>& regions,
+                                                    std::ostream& out, Units::UNIT_TYPE units,
+                                                    EXPORT_TYPE exportType) const {
+    WriteRegions(regions, out, units, exportType, PVO);
+    return {};
+}
+
+void BlackOilExportFileWriter::WriteRegions(std::span<const BlackOilTable> regions,
+                                            std::ostream& out, Units::UNIT_TYPE units,
+                                            EXPORT_TYPE exportType, FILE_TYPE fileType) const {
     const StreamFormat format(out);
     out << std::fixed;
     out.precision(highPrecision ? decimalsOfHighPrecision : decimalsOfTables);
     const auto formatter = MakeFormatter(fileType, units, exportType);
+    for (const BlackOilTable& region : regions) {
+        formatter->SurfaceDensities(out, region.GetOilDensity(), waterDensity,
+                                    region.GetGasDensity());
+    }
+    out << '\n';
+    for (const BlackOilTable& region : regions) {
+        formatter->SaturationPoint(out, region.GetSaturationPointRs(),
+                                   region.GetSaturationPointPressure());
+    }
+    out << '\n';
+
     const BlackOilDataRecords none;
-    const BlackOilDataRecords& oil = HasLiveOil(exportType)   ? table.GetLiveOilData()
-                                     : HasDeadOil(exportType) ? table.GetDeadOilData()
-                                                              : none;
-    const BlackOilDataRecords& gas = HasWetGas(exportType)   ? table.GetWetGasData()
-                                     : HasDryGas(exportType) ? table.GetDryGasData()
-                                                             : none;
-
-    formatter->SurfaceDensities(out, table.GetOilDensity(), waterDensity, table.GetGasDensity());
-    out << '\n';
-    formatter->SaturationPoint(out, table.GetSaturationPointRs(),
-                               table.GetSaturationPointPressure());
-    out << '\n';
-
     formatter->OilTableHeader(out);
     out << '\n';
-    WriteRecords(out, *formatter, &IBlackoilTableFormatter::OilTableEntry, oil,
-                 !HasDeadOil(exportType));
-    formatter->EndDataRecord(out);
-    out << "\n\n";
+    for (const BlackOilTable& region : regions) {
+        const BlackOilDataRecords& oil = HasLiveOil(exportType)   ? region.GetLiveOilData()
+                                         : HasDeadOil(exportType) ? region.GetDeadOilData()
+                                                                  : none;
+        WriteRecords(out, *formatter, &IBlackoilTableFormatter::OilTableEntry, oil,
+                     !HasDeadOil(exportType));
+        formatter->EndDataRecord(out);
+        out << '\n';
+    }
+    out << '\n';
 
     formatter->GasTableHeader(out);
     out << '\n';
-    WriteRecords(out, *formatter, &IBlackoilTableFormatter::GasTableEntry, gas,
-                 !HasDryGas(exportType));
-    formatter->EndDataRecord(out);
-    out << '\n';
+    for (const BlackOilTable& region : regions) {
+        const BlackOilDataRecords& gas = HasWetGas(exportType)   ? region.GetWetGasData()
+                                         : HasDryGas(exportType) ? region.GetDryGasData()
+                                                                 : none;
+        WriteRecords(out, *formatter, &IBlackoilTableFormatter::GasTableEntry, gas,
+                     !HasDryGas(exportType));
+        formatter->EndDataRecord(out);
+        out << '\n';
+    }
 
     out << FileUnitHeader(units == Units::METRIC);
-    return {};
 }
 
 ErrorReport BlackOilExportFileWriter::ExportXMFYMFVP(const CompositionalFluid& fluid,

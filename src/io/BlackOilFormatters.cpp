@@ -5,6 +5,7 @@
 
 #include <array>
 #include <string_view>
+#include <utility>
 
 namespace Orv::FluidBench::IO {
 
@@ -114,10 +115,13 @@ void PVOFormatter::SurfaceDensities(std::ostream& out, double oilDensity, double
                                     double gasDensity) {
     const NumberFormat format = FormatOf(out);
     const auto convert = DensityUnit(IsField());
-    std::string text = "-- DENSITY:\tOIL\tWATER\tGAS\n-- Units: ";
-    text += IsField() ? "lb /ft^3  \t   lb /ft^3  \t   lb /ft^3"
-                      : "kg /m^3  \t   kg /m^3  \t   kg /m^3 ";
-    text += "\nDENSITY\n-- \n-- Fluid Densities at Surface Conditions\n-- \n";
+    std::string text;
+    if (!std::exchange(hasDensities, true)) {
+        text = "-- DENSITY:\tOIL\tWATER\tGAS\n-- Units: ";
+        text += IsField() ? "lb /ft^3  \t   lb /ft^3  \t   lb /ft^3"
+                          : "kg /m^3  \t   kg /m^3  \t   kg /m^3 ";
+        text += "\nDENSITY\n-- \n-- Fluid Densities at Surface Conditions\n-- \n";
+    }
     AppendNumber(text, convert(oilDensity), format, densityWidth);
     text += '\t';
     AppendNumber(text, convert(waterDensity), format);
@@ -133,9 +137,12 @@ void PVOFormatter::SaturationPoint(std::ostream& out, double gasOilRatio, double
     }
     const NumberFormat format = FormatOf(out);
     const RowUnits& convert = IsField() ? fieldOilRow : metricRow;
-    std::string text = "-- RSCONSTT: Gas Oil Ratio at Saturation Pressure\n-- Units: ";
-    text += IsField() ? "Mscf /stb     psia" : "sm3 /sm3     bar ";
-    text += "\nRSCONSTT\n";
+    std::string text;
+    if (!std::exchange(hasSaturationPoint, true)) {
+        text = "-- RSCONSTT: Gas Oil Ratio at Saturation Pressure\n-- Units: ";
+        text += IsField() ? "Mscf /stb     psia" : "sm3 /sm3     bar ";
+        text += "\nRSCONSTT\n";
+    }
     AppendNumber(text, convert.property(gasOilRatio), format);
     text += '\t';
     AppendNumber(text, convert.pressure(pressure), format);

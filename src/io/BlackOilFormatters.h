@@ -86,6 +86,8 @@ private:
 
     Common::Units::UNIT_TYPE units;
     EXPORT_TYPE exportType;
+    bool hasDensities = false; // what is written further is another region's, below the same title
+    bool hasSaturationPoint = false;
     Text::TextBuffer row; // of the entry at hand; kept, so that a row costs no allocation
 };
 

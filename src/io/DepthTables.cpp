@@ -21,9 +21,11 @@
 #include "NumberText.h"
 #include "OutputFile.h"
 #include "StreamFormat.h"
+#include "io/DepthTableReader.h"
 
 #include <algorithm>
 #include <compare>
+#include <stdexcept>
 #include <utility>
 
 namespace Orv::FluidBench::IO {
@@ -46,18 +48,21 @@ using Utilities::Equations;
 
 namespace {
 
-struct DepthTable {
+struct TableHeading {
     const char* keyword;
     const char* title;
     const char* fieldUnits;
     const char* metricUnits;
 };
 
-constexpr DepthTable compositions{"ZMFVD", "Total Composition vs Depth", "ft", "m"};
-constexpr DepthTable bubblePoints{"PBVD", "Pb vs Depth", "psia", "bar"};
-constexpr DepthTable dewPoints{"PDVD", "Pd vs Depth", "psia", "bar"};
-constexpr DepthTable dissolvedGas{"RSVD", "Rs vs Depth", "Field", "Metric "};
-constexpr DepthTable vaporisedOil{"RVVD", "Rv vs Depth", "Field", "Metric "};
+constexpr TableHeading compositions{"ZMFVD", "Total Composition vs Depth", "ft", "m"};
+constexpr TableHeading bubblePoints{"PBVD", "Pb vs Depth", "psia", "bar"};
+constexpr TableHeading dewPoints{"PDVD", "Pd vs Depth", "psia", "bar"};
+constexpr TableHeading dissolvedGas{"RSVD", "Rs vs Depth", "Field", "Metric "};
+constexpr TableHeading vaporisedOil{"RVVD", "Rv vs Depth", "Field", "Metric "};
+
+constexpr const TableHeading* headings[] = {&compositions, &bubblePoints, &dewPoints, &dissolvedGas,
+                                            &vaporisedOil};
 
 constexpr NumberFormat sixDigits{std::chars_format::general, 6};
 constexpr std::size_t depthWidth = 12;
@@ -82,7 +87,7 @@ void InsertStageByDepth(std::vector<Stage>& stages, const Stage& stage) {
     });
 }
 
-void BeginTable(std::ostream& out, const DepthTable& table, Units::UNIT_TYPE units) {
+void BeginTable(std::ostream& out, const TableHeading& table, Units::UNIT_TYPE units) {
     out << "-- Units: " << (units == Units::FIELD ? table.fieldUnits : table.metricUnits) << '\n'
         << table.keyword << "\n-- \n-- " << table.title << "\n-- \n";
 }
@@ -107,22 +112,29 @@ void WriteRow(std::ostream& out, double depth, double value, Units::UNIT_TYPE un
 
 // The depth and the first fraction on a line, each further fraction on one of its own, and a line
 // of blanks behind them.
-void WriteComposition(std::ostream& out, const Stage& stage, const std::vector<std::string>& names,
+void WriteComposition(std::ostream& out, double depth, const std::vector<double>& fractions,
                       Units::UNIT_TYPE units) {
     std::string block;
-    AppendDepth(block, DepthOf(stage), units);
-    for (const std::string& name : names) {
+    AppendDepth(block, depth, units);
+    for (const double fraction : fractions) {
         block += ' ';
-        AppendNumber(block,
-                     stage.Fluid.HasComponentWithGlobalName(name)
-                         ? stage.Fluid.GetComponentFractionByGlobalName(name)
-                         : 0.0,
-                     sixDigits);
+        AppendNumber(block, fraction, sixDigits);
         block += '\n';
         block.append(depthWidth, ' ');
     }
     block += '\n';
     out << block;
+}
+
+std::vector<double> FractionsOf(const CompositionalFluid& fluid,
+                                const std::vector<std::string>& names) {
+    std::vector<double> fractions;
+    for (const std::string& name : names) {
+        fractions.push_back(fluid.HasComponentWithGlobalName(name)
+                                ? fluid.GetComponentFractionByGlobalName(name)
+                                : 0.0);
+    }
+    return fractions;
 }
 
 bool GivesRatio(const ExperimentResults& run) {
@@ -134,6 +146,16 @@ double RatioOfTable(double gasOilRatio, bool isRs, Units::UNIT_TYPE units) {
     const double ratio =
         units == Units::FIELD ? Units::GOR_m3m3_To_Mscfstb(gasOilRatio) : gasOilRatio;
     return isRs ? ratio : 1.0 / ratio;
+}
+
+// A value of a table against depth, in the units of the file.
+double ValueOfTable(const TableHeading& heading, double value, Units::UNIT_TYPE units) {
+    if (&heading == &bubblePoints || &heading == &dewPoints) {
+        return units == Units::FIELD ? Units::Pressure_Pa_To_psi(value)
+                                     : Units::Pressure_Pa_To_bar(value);
+    }
+    return &heading == &dissolvedGas ? RatioOfTable(value, true, units)
+                                     : RatioOfTable(1.0 / value, false, units);
 }
 
 ErrorReport EmptyResults() {
@@ -188,7 +210,7 @@ ErrorReport PVOFileWriter::ExportZMFVD(const CompositionalFluid& fluid,
 
     BeginTable(out, compositions, units);
     for (const Stage& stage : stages) {
-        WriteComposition(out, stage, names, units);
+        WriteComposition(out, DepthOf(stage), FractionsOf(stage.Fluid, names), units);
     }
     EndTable(out);
     out << FileUnitHeader(units == Units::METRIC);
@@ -280,6 +302,32 @@ ErrorReport PVOFileWriter::ExportRSVD(const ExperimentResults& results, MSTExper
         WriteRow(out, depth, ratio, units);
     }
     EndTable(out);
+    out << FileUnitHeader(units == Units::METRIC);
+    return {};
+}
+
+ErrorReport PVOFileWriter::ExportDepthTables(const std::vector<DepthTable>& tables,
+                                             std::ostream& out, Units::UNIT_TYPE units) const {
+    const StreamFormat format(out);
+    for (const DepthTable& table : tables) {
+        const auto* const heading =
+            std::ranges::find_if(headings, [&table](const TableHeading* candidate) {
+                return table.Keyword == candidate->keyword;
+            });
+        if (heading == std::end(headings)) {
+            throw std::invalid_argument("'" + table.Keyword + "' is no table against depth");
+        }
+        BeginTable(out, **heading, units);
+        for (std::size_t i = 0; i < table.Depths.size(); ++i) {
+            const std::vector<double>& values = table.Values.at(i);
+            if (*heading == &compositions) {
+                WriteComposition(out, table.Depths[i], values, units);
+            } else {
+                WriteRow(out, table.Depths[i], ValueOfTable(**heading, values.at(0), units), units);
+            }
+        }
+        EndTable(out);
+    }
     out << FileUnitHeader(units == Units::METRIC);
     return {};
 }

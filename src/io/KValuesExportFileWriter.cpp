@@ -9,7 +9,7 @@
 //     --
 //     100.0                    2.5 ...   a record: pressure and K-values
 //     /
-//                                        two empty lines
+//                                        an empty line, and perhaps another table
 //
 //     FILEUNIT
 //     METRIC
@@ -56,6 +56,18 @@ ErrorReport KValuesExportFileWriter::ExportToFile(const KValuesTable& table,
 
 ErrorReport KValuesExportFileWriter::ExportToFile(const KValuesTable& table, std::ostream& out,
                                                   Units::UNIT_TYPE unitType) const {
+    return WriteTables({&table, 1}, out, unitType);
+}
+
+ErrorReport KValuesExportFileWriter::ExportTables(const std::vector<KValuesTable>& tables,
+                                                  std::ostream& out,
+                                                  Units::UNIT_TYPE unitType) const {
+    return WriteTables(tables, out, unitType);
+}
+
+ErrorReport KValuesExportFileWriter::WriteTables(std::span<const KValuesTable> tables,
+                                                 std::ostream& out,
+                                                 Units::UNIT_TYPE unitType) const {
     if (fileType != PVO) {
         ErrorReport report;
         report.Add(CsvUnsupported());
@@ -67,7 +79,9 @@ ErrorReport KValuesExportFileWriter::ExportToFile(const KValuesTable& table, std
     const std::unique_ptr<IKValuesTableFormatter> formatter =
         std::make_unique<KValuesTableFormatter>(unitType);
     formatter->Echo(out);
-    formatter->KVTable(out, table);
+    for (const KValuesTable& table : tables) {
+        formatter->KVTable(out, table);
+    }
     formatter->EndDataRecord(out);
     out << std::endl << FileUnitHeader(unitType == Units::METRIC);
     return {};

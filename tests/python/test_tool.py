@@ -164,6 +164,7 @@ def test_k_values(units, tmp_path):
     path = tmp_path / "k.inc"
     text, said = converted("kvalues", "six-component-k-values.csv", path, "--to-units", units)
     (table,) = fb.read_k_values(path)
+    (said,) = said["tables"]
     assert list(table.values.columns) == said["components"]
     assert table.temperature == pytest.approx(said["temperature"], abs=1e-6)
     np.testing.assert_allclose(table.values.reset_index(), said["records"], rtol=1e-7, atol=1e-8)

@@ -4,11 +4,11 @@
 #include "Comparison.h"
 #include "FluidBench/Common/Units.h"
 #include "FluidBench/Model/BlackOilTable.h"
-#include "FormatFinder.h"
 #include "PlotCommands.h"
 #include "Progress.h"
 #include "TableFiles.h"
 #include "io/BlackOilExportFileWriter.h"
+#include "io/BlackOilKeywordReader.h"
 
 #include <algorithm>
 #include <array>
@@ -21,6 +21,7 @@ namespace FluidBenchTool {
 
 using Orv::FluidBench::Common::Units;
 using Orv::FluidBench::IO::BlackOilExportFileWriter;
+using Orv::FluidBench::IO::BlackOilKeywordReader;
 using Orv::FluidBench::Model::BlackOilDataRecords;
 using Orv::FluidBench::Model::BlackOilTable;
 
@@ -44,14 +45,14 @@ constexpr std::pair<std::string_view, Writer::EXPORT_TYPE> tableChoices[] = {
 BlackOilFile ReadBlackOil(Input& input, Call& call) {
     Messages& messages = call.Told();
     const Progress progress(messages, "Reading " + input.Name());
-    const std::uint64_t errors = messages.Errors();
-    const auto units = FromUnits(call);
     BlackOilFile file;
-    if (units == Units::FIELD) {
-        messages.Fail(ToolKinds::otherUnits, input.Name(),
-                      "Expected no choice of field units, as the form with commas is metric "
-                      "always.");
+    file.hasKeywords = HasKeywords(input);
+    if (file.hasKeywords) {
+        ReadKeywords<BlackOilKeywordReader>(input, call, file.regions);
+        return file;
     }
+    RequireMetric(input, call);
+    const std::uint64_t errors = messages.Errors();
     Writer reader;
     reader.SetDiagnosticSink(messages.Sink());
     reader.SetReadsSaturationPoint(true);
@@ -69,9 +70,13 @@ BlackOilFile ReadTables(std::size_t operand, Call& call) {
     return ReadBlackOil(input, call);
 }
 
-BlackOilTable TakeRegion(BlackOilFile& file, Call& call) {
+// The regions to write. The form with commas holds one.
+std::vector<BlackOilTable> TakeRegions(BlackOilFile& file, bool toCsv, Call& call) {
     const auto asked = call.Asked().Count(Options::region);
     const std::size_t count = file.regions.size();
+    if (!asked && !toCsv) {
+        return std::move(file.regions);
+    }
     if (!asked && count > 1) {
         call.Told().Tell(ToolKinds::firstRegion, call.Operand(0),
                          "Expected one region, found " + std::to_string(count) +
@@ -83,7 +88,9 @@ BlackOilTable TakeRegion(BlackOilFile& file, Call& call) {
                          "Expected a region " + std::to_string(region) + ", found " +
                              std::to_string(count) + " in all.");
     }
-    return std::move(file.regions[region - 1]);
+    std::vector<BlackOilTable> regions;
+    regions.push_back(std::move(file.regions[region - 1]));
+    return regions;
 }
 
 template <typename Visit>
@@ -129,19 +136,83 @@ bool IsEmpty(const BlackOilDataRecords& records) {
     return records.GetTableSize() == 0;
 }
 
-Writer::EXPORT_TYPE TablesOf(const BlackOilTable& table) {
-    const bool isDead = IsEmpty(table.GetLiveOilData()) && !IsEmpty(table.GetDeadOilData());
-    const bool isDry = IsEmpty(table.GetWetGasData()) && !IsEmpty(table.GetDryGasData());
+bool IsDead(Writer::EXPORT_TYPE choice) {
+    return choice == Writer::DEAD_OIL_WET_GAS || choice == Writer::DEAD_OIL_DRY_GAS;
+}
+
+bool IsDry(Writer::EXPORT_TYPE choice) {
+    return choice == Writer::LIVE_OIL_DRY_GAS || choice == Writer::DEAD_OIL_DRY_GAS;
+}
+
+// Whether the rows are those of a dry gas, for which the form with commas has no heading: a gas
+// without oil, with rows at several pressures together, of which a wet gas has a record each.
+bool IsDryGasInRows(const BlackOilDataRecords& records) {
+    bool isDry = false;
+    for (std::uint64_t i = 0; i < records.GetTableSize(); ++i) {
+        for (std::uint64_t j = 0; j < records.GetRecordContentSize(i); ++j) {
+            if (records.GetProperty(i, j) != 0.0) {
+                return false;
+            }
+            isDry = isDry || records.GetPressure(i, j) != records.GetPressure(i, 0);
+        }
+    }
+    return isDry;
+}
+
+// The tables that the regions have. A live oil of one ratio can hold what a dead oil is, and a wet
+// gas what a dry one is, but not the other way round.
+Writer::EXPORT_TYPE TablesOf(const std::vector<BlackOilTable>& regions) {
+    const auto has = [&](const BlackOilDataRecords& (BlackOilTable::*records)() const noexcept) {
+        return std::ranges::any_of(
+            regions, [&](const BlackOilTable& region) { return !IsEmpty((region.*records)()); });
+    };
+    const bool isDead = !has(&BlackOilTable::GetLiveOilData) && has(&BlackOilTable::GetDeadOilData);
+    const bool isDry = std::ranges::all_of(regions,
+                                           [](const BlackOilTable& region) {
+                                               return IsEmpty(region.GetWetGasData()) ||
+                                                      IsDryGasInRows(region.GetWetGasData());
+                                           }) &&
+                       (has(&BlackOilTable::GetWetGasData) || has(&BlackOilTable::GetDryGasData));
     return isDead ? (isDry ? Writer::DEAD_OIL_DRY_GAS : Writer::DEAD_OIL_WET_GAS)
                   : (isDry ? Writer::LIVE_OIL_DRY_GAS : Writer::LIVE_OIL_WET_GAS);
+}
+
+void TellLeftOut(Call& call, const char* written, const char* leftOut) {
+    call.Told().Tell(ToolKinds::tableLeftOut, call.Operand(0),
+                     std::string("Expected one of ") + written + " and " + leftOut +
+                         ", found both; " + leftOut +
+                         " is left out. --tables chooses what is written.");
+}
+
+void TellWhatIsLeftOut(const BlackOilTable& table, Writer::EXPORT_TYPE choice, Call& call) {
+    if (!IsEmpty(table.GetLiveOilData()) && !IsEmpty(table.GetDeadOilData())) {
+        const char* const names[] = {"live oil", "dead oil"};
+        TellLeftOut(call, names[IsDead(choice) ? 1 : 0], names[IsDead(choice) ? 0 : 1]);
+    }
+    if (!IsEmpty(table.GetWetGasData()) && !IsEmpty(table.GetDryGasData())) {
+        const char* const names[] = {"wet gas", "dry gas"};
+        TellLeftOut(call, names[IsDry(choice) ? 1 : 0], names[IsDry(choice) ? 0 : 1]);
+    }
+}
+
+// Keywords tell the saturation point of dead oil alone. That of a live oil of one record is the
+// record's.
+void CompleteSaturationPoint(BlackOilTable& table) {
+    const BlackOilDataRecords& oil = table.GetLiveOilData();
+    if (table.GetSaturationPointPressure() == 0.0 && oil.GetTableSize() == 1 &&
+        oil.GetRecordContentSize(0) > 0) {
+        table.SetSaturationPoint(oil.GetProperty(0, 0), oil.GetPressure(0, 0));
+    }
 }
 
 // Puts the rows where the choice has them written from: those of the other table of the phase,
 // where its own has none.
 void MoveRows(BlackOilTable& table, Writer::EXPORT_TYPE choice, Call& call) {
-    const bool isDead = choice == Writer::DEAD_OIL_WET_GAS || choice == Writer::DEAD_OIL_DRY_GAS;
-    const bool isDry = choice == Writer::LIVE_OIL_DRY_GAS || choice == Writer::DEAD_OIL_DRY_GAS;
+    const bool isDead = IsDead(choice);
+    const bool isDry = IsDry(choice);
+    TellWhatIsLeftOut(table, choice, call);
     if (isDead && IsEmpty(table.GetDeadOilData())) {
+        CompleteSaturationPoint(table);
         table.SetDeadOilData(table.GetLiveOilData());
         WarnUnlessPressureRises(call, table.GetDeadOilData(), "dead oil");
     } else if (!isDead && IsEmpty(table.GetLiveOilData())) {
@@ -155,20 +226,32 @@ void MoveRows(BlackOilTable& table, Writer::EXPORT_TYPE choice, Call& call) {
     }
 }
 
-Writer::EXPORT_TYPE ChooseTables(const BlackOilTable& table, const Call& call) {
+Writer::EXPORT_TYPE ChooseTables(const std::vector<BlackOilTable>& regions, const Call& call) {
     const std::string word = call.Asked().Value(tables, "auto");
     const auto choice = std::ranges::find(tableChoices, word,
                                           &std::pair<std::string_view, Writer::EXPORT_TYPE>::first);
-    return choice == std::end(tableChoices) ? TablesOf(table) : choice->second;
+    return choice == std::end(tableChoices) ? TablesOf(regions) : choice->second;
 }
 
-void WarnOfWaterDensity(const BlackOilTable& table, Call& call) {
+// Of the regions one is told of: they have the same water as a rule.
+void WarnOfWaterDensity(const std::vector<BlackOilTable>& regions, Call& call) {
     constexpr double writtenDensity = 1000.0;
-    if (table.GetWaterDensity() != 0.0 && table.GetWaterDensity() != writtenDensity) {
+    const auto other = std::ranges::find_if(regions, [](const BlackOilTable& region) {
+        return region.GetWaterDensity() != 0.0 && region.GetWaterDensity() != writtenDensity;
+    });
+    if (other != regions.end()) {
         call.Told().Tell(ToolKinds::waterDensity, call.Operand(0),
                          "Expected a water density of 1000 kg/m3, which is what files are written "
                          "with, found " +
-                             NumberText(table.GetWaterDensity()) + ".");
+                             NumberText(other->GetWaterDensity()) + ".");
+    }
+}
+
+void WarnOfSaturationPoint(const BlackOilTable& table, Writer::EXPORT_TYPE choice, Call& call) {
+    if (IsDead(choice) && table.GetSaturationPointPressure() == 0.0) {
+        call.Told().Tell(ToolKinds::noSaturationPoint, call.Operand(0),
+                         "Expected a saturation point, which belongs to a dead oil, found none; "
+                         "zeros are written.");
     }
 }
 
@@ -195,16 +278,23 @@ void Show(Call& call) {
 
 void Convert(Call& call) {
     const std::string& out = call.Operand(1);
-    const auto form = IsToCsv(call, out) ? Writer::CSV : Writer::PVO;
+    const bool toCsv = IsToCsv(call, out);
     const auto units = UnitsOf(call.Asked().Value(Options::toUnits, "metric"));
     BlackOilFile file = ReadTables(0, call);
-    BlackOilTable table = TakeRegion(file, call);
-    WarnOfWaterDensity(table, call);
-    const auto choice = ChooseTables(table, call);
-    MoveRows(table, choice, call);
+    std::vector<BlackOilTable> regions = TakeRegions(file, toCsv, call);
+    const auto choice = ChooseTables(regions, call);
+    WarnOfWaterDensity(regions, call);
+    for (BlackOilTable& region : regions) {
+        MoveRows(region, choice, call);
+        WarnOfSaturationPoint(region, choice, call);
+    }
     call.Write(out, [&](std::ostream& stream) {
-        Writer(call.Asked().Has(Options::highPrecision))
-            .ExportToFile(table, stream, units, choice, form);
+        const Writer writer(call.Asked().Has(Options::highPrecision));
+        if (toCsv) {
+            writer.ExportToFile(regions.front(), stream, units, choice, Writer::CSV);
+        } else {
+            writer.ExportRegions(regions, stream, units, choice);
+        }
     });
 }
 

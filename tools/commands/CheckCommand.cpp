@@ -13,7 +13,8 @@ using Orv::Text::TextKind;
 
 namespace {
 
-constexpr Option format{"--format", "deck|blackoil|kvalues|thermal|depth|envelope|dfa|mfl",
+constexpr Option format{"--format",
+                        "deck|blackoil|compositions|kvalues|thermal|depth|envelope|dfa|mfl",
                         "The format of the files. Found from their content, unless given"};
 
 std::string CountText(std::uint64_t count, const char* what) {
@@ -67,6 +68,7 @@ void CheckFile(const std::string& name, Call& call) {
 }
 
 void Check(Call& call) {
+    call.Told().TellNotes();
     for (const std::string& name : call.Asked().Operands()) {
         CheckFile(name, call);
     }

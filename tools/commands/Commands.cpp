@@ -1,5 +1,6 @@
 #include "Commands.h"
 
+#include "FormatFinder.h"
 #include "Progress.h"
 
 namespace FluidBenchTool {
@@ -25,6 +26,18 @@ Units::UNIT_TYPE UnitsOf(const std::string& word) {
 std::optional<Units::UNIT_TYPE> FromUnits(const Call& call) {
     const std::string word = call.Asked().Value(Options::fromUnits, "auto");
     return word == "auto" ? std::nullopt : std::optional(UnitsOf(word));
+}
+
+void RequireMetric(const Input& input, Call& call) {
+    if (FromUnits(call) == Units::FIELD) {
+        call.Told().Fail(ToolKinds::otherUnits, input.Name(),
+                         "Expected no choice of field units, as the form with commas is metric "
+                         "always.");
+    }
+}
+
+bool HasKeywords(Input& input) {
+    return FindFormat(input.Text()).hasKeywords;
 }
 
 bool IsField(const Call& call, const Option& option) {
@@ -76,6 +89,8 @@ std::span<const Family> Families() {
     static const Family families[] = {
         {"deck", "keyword decks of compositional fluids", DeckCommands(), CheckDeck},
         {"blackoil", "black-oil tables", BlackOilCommands(), CheckBlackOil},
+        {"compositions", "compositions against pressure", CompositionsCommands(),
+         CheckCompositions},
         {"kvalues", "K-value tables", KValuesCommands(), CheckKValues},
         {"thermal", "thermal data", ThermalCommands(), CheckThermal},
         {"depth", "fluids by depth", DepthCommands(), CheckDepth},

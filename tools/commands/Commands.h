@@ -56,7 +56,8 @@ inline constexpr Option toKeywordsOrCsv{"--to", "keywords|csv",
     "Form to write. Where it isn't given, csv for a name that ends in .csv, and else keywords. The "
     "numbers of csv are metric always"};
 inline constexpr Option region{"--region", "NUMBER",
-    "The region to take from a file of several; 1, unless given"};
+    "The region to take from a file of several. Unless given, all of them go into keywords, and the "
+    "first one into csv"};
 inline constexpr Option tolerance{"--tolerance", "NUMBER",
     "Numbers that differ by no more than this, relative to the larger one, count as the same; "
     "1e-6, unless given"};
@@ -77,6 +78,23 @@ inline constexpr int cantCompare = 2; ///< of diff
 Orv::FluidBench::Common::Units::UNIT_TYPE UnitsOf(const std::string& word);
 /// The units that `Options::fromUnits` names; nothing for auto.
 std::optional<Orv::FluidBench::Common::Units::UNIT_TYPE> FromUnits(const Call& call);
+
+/// The form with commas is metric always: fails where other units were asked for.
+void RequireMetric(const Input& input, Call& call);
+
+/// Whether the text has keywords; otherwise it has commas.
+bool HasKeywords(Input& input);
+
+/// Has a keyword reader of the library read the text, and tells what it has to say.
+template <typename Reader, typename Result>
+void ReadKeywords(Input& input, Call& call, Result& result) {
+    Messages& messages = call.Told();
+    const std::uint64_t errors = messages.Errors();
+    Reader reader;
+    reader.SetDiagnosticSink(messages.Sink());
+    messages.TellReport(reader.Read(input.Text(), result, FromUnits(call), input.Name()),
+                        input.Name(), errors);
+}
 
 /// Whether `Options::toUnits` or a like option asks for field units.
 bool IsField(const Call& call, const Option& option);
@@ -117,6 +135,8 @@ std::span<const Command> GeneralCommands();
 // Of each family, its commands and its check.
 std::span<const Command> BlackOilCommands();
 void CheckBlackOil(Input& input, Call& call);
+std::span<const Command> CompositionsCommands();
+void CheckCompositions(Input& input, Call& call);
 std::span<const Command> DeckCommands();
 void CheckDeck(Input& input, Call& call);
 std::span<const Command> DepthCommands();

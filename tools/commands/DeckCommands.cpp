@@ -23,7 +23,6 @@ using Orv::FluidBench::Common::Units;
 using Orv::FluidBench::IO::Diagnostic;
 using Orv::FluidBench::IO::PVOFileReader;
 using Orv::FluidBench::IO::PVOFileWriter;
-using Orv::FluidBench::IO::Severity;
 using UnitSystem = pvtEnumPVOUnitSystemType;
 
 namespace {
@@ -188,12 +187,10 @@ FluidFile ReadDeck(Input& input, Call& call) {
     reader.SetPVOUnitSystem(units == Units::FIELD ? UnitSystem::Field : UnitSystem::Metric);
     // The simulator's logger prints on its own; what it has to say comes to the sink too.
     reader.SetPVOErrorMessageSeverityLevel(pvtEnumPVOErrorSeverityLevel::Fatal);
-    const bool isVerbose = call.Asked().Has(verbose);
-    reader.SetDiagnosticSink([&messages, isVerbose](const Diagnostic& diagnostic) {
-        if (isVerbose || diagnostic.severity > Severity::Note) {
-            messages.Tell(diagnostic);
-        }
-    });
+    if (call.Asked().Has(verbose)) {
+        messages.TellNotes();
+    }
+    reader.SetDiagnosticSink(messages.Sink());
     FluidFile file;
     messages.TellReport(reader.Read(file.fluid, !units), input.Name(), errors);
     file.isField = reader.GetPVOUnitSystemToUse() == UnitSystem::Field;

@@ -219,6 +219,11 @@ std::span<const Command> DfaCommands() {
 }
 
 void CheckDfa(Input& input, Call& call) {
+    if (input.Name().ends_with("FT.txt")) {
+        call.Told().Fail(ToolKinds::nothingRead, input.Name(),
+                         "Expected the main file of an analysis, found the file of its pressures "
+                         "by the name; a check of the main file reads both.");
+    }
     DFAReader reader;
     ImportOrFail(reader, input, call);
 }

@@ -18,6 +18,7 @@ namespace FluidBenchTool {
 
 using Orv::FluidBench::Common::Units;
 using Orv::FluidBench::Experiments::Stage;
+using Orv::FluidBench::IO::DepthTable;
 using Orv::FluidBench::Model::BlackOilDataRecords;
 using Orv::FluidBench::Model::BlackOilTable;
 using Orv::FluidBench::Model::KValuesTable;
@@ -202,16 +203,18 @@ void PlotKValues(Call& call) {
     std::vector<std::string> components;
     std::vector<LegendEntry> tables;
     ForEachPlotted(call, [&](Input& input, const std::string& file) {
-        const KValuesTable table = ReadKValues(input, call);
-        AddKValues(panel, components, table, pressure, tables.size());
-        const ShownUnit degrees =
-            field ? ShownUnit{"\u00B0F", Units::Temperature_K_To_F} : ShownUnit{"K"};
-        tables.push_back({{"#555555", 2.0, DashesOf(tables.size())},
-                          false,
-                          LegendName(file),
-                          table.Temperature < 0.0 ? std::string()
-                                                  : NumberText(degrees.convert(table.Temperature)) +
-                                                        ' ' + degrees.name});
+        for (const KValuesTable& table : ReadKValues(input, call)) {
+            AddKValues(panel, components, table, pressure, tables.size());
+            const ShownUnit degrees =
+                field ? ShownUnit{"\u00B0F", Units::Temperature_K_To_F} : ShownUnit{"K"};
+            tables.push_back(
+                {{"#555555", 2.0, DashesOf(tables.size())},
+                 false,
+                 LegendName(file),
+                 table.Temperature < 0.0
+                     ? std::string()
+                     : NumberText(degrees.convert(table.Temperature)) + ' ' + degrees.name});
+        }
     });
     Chart chart{"K-values", SubtitleOf(call), {std::move(panel)}};
     for (std::size_t i = 0; i < components.size(); ++i) {
@@ -279,6 +282,37 @@ void AddCurves(DepthPanels& panels, const DepthRun& run, const DepthUnits& units
     }
 }
 
+// The same of tables against depth. Vaporised oil is drawn as the gas-oil ratio that it is the
+// inverse of.
+void AddTables(DepthPanels& panels, std::vector<std::string>& components,
+               const std::vector<DepthTable>& tables, const DepthUnits& units, std::size_t file) {
+    const auto add = [&](Panel& panel, const DepthTable& table, std::size_t column, auto value) {
+        Curve made{{ColourOf(column), 2.0, DashesOf(file)}, false, {}};
+        for (std::size_t i = 0; i < table.Depths.size(); ++i) {
+            made.points.push_back(
+                {value(table.Values[i].at(column)), units.depth.convert(table.Depths[i])});
+        }
+        panel.curves.push_back(std::move(made));
+    };
+    for (const DepthTable& table : tables) {
+        if (table.Keyword == "RSVD") {
+            add(panels.ratio, table, 0, units.ratio.convert);
+        } else if (table.Keyword == "RVVD") {
+            add(panels.ratio, table, 0,
+                [&](double value) { return units.ratio.convert(1.0 / value); });
+        } else if (table.Keyword != "ZMFVD") {
+            add(panels.saturation, table, 0, units.pressure.convert);
+        } else if (!table.Values.empty()) {
+            for (std::size_t i = 0; i < table.Values.front().size(); ++i) {
+                add(panels.composition, table, i, [](double fraction) { return fraction; });
+                if (i >= components.size()) {
+                    components.push_back("component " + std::to_string(i + 1));
+                }
+            }
+        }
+    }
+}
+
 DepthPanels EmptyDepthPanels(const DepthUnits& units) {
     const Axis depth{.label = Named("Depth", units.depth), .isDownward = true};
     const Axis pressure{.label = units.pressure.name};
@@ -297,11 +331,15 @@ void PlotDepth(Call& call) {
     std::vector<std::string> components;
     std::vector<LegendEntry> files;
     ForEachPlotted(call, [&](Input& input, const std::string& file) {
-        DepthRun run;
-        ReadDepthRun(input, call, run);
-        AddCurves(panels, run, units, files.size());
+        DepthFile read;
+        ReadDepth(input, call, read);
+        const std::vector<std::string>& names = read.run.components;
+        if (read.tables.empty()) {
+            AddCurves(panels, read.run, units, files.size());
+        }
+        components = names.size() > components.size() ? names : components;
+        AddTables(panels, components, read.tables, units, files.size());
         files.push_back({{"#555555", 2.0, DashesOf(files.size())}, false, LegendName(file)});
-        components = run.components.size() > components.size() ? run.components : components;
     });
     Chart chart{
         "Fluids by depth",

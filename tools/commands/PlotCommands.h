@@ -18,8 +18,10 @@ inline constexpr Option contact{"--contact", "DEPTH",
 
 // The panels of black oil share their pressures alone, and those of fluids by depth their depths.
 inline constexpr Option ofBlackOilPlot[] = {showUnits, fromUnits, title, size, xRange, strict};
-inline constexpr Option ofKValuesPlot[] = {showUnits, title, size, xRange, yRange, strict};
-inline constexpr Option ofDepthPlot[] = {showUnits, contact, title, size, yRange, strict};
+inline constexpr Option ofKValuesPlot[] = {showUnits, fromUnits, title, size,
+                                           xRange,    yRange,    strict};
+inline constexpr Option ofDepthPlot[] = {showUnits, fromUnits, contact, title,
+                                         size,      yRange,    strict};
 } // namespace Options
 
 inline constexpr Command blackOilPlot{"blackoil",

@@ -2,11 +2,11 @@
 #include "Commands.h"
 #include "DataRows.h"
 #include "FluidBench/Model/ThermalExportTable.h"
-#include "FormatFinder.h"
 #include "Json.h"
 #include "Progress.h"
 #include "ShownUnit.h"
 #include "io/ThermalExportFileWriter.h"
+#include "io/ThermalKeywordReader.h"
 
 #include <algorithm>
 #include <array>
@@ -18,6 +18,7 @@ namespace FluidBenchTool {
 
 using Orv::FluidBench::Common::Units;
 using Orv::FluidBench::IO::ThermalExportFileWriter;
+using Orv::FluidBench::IO::ThermalKeywordReader;
 using Orv::FluidBench::Model::ThermalExportTable;
 
 namespace {
@@ -197,13 +198,13 @@ ThermalExportTable RowReader::Read() {
 }
 
 ThermalExportTable ReadTable(Input& input, Call& call) {
-    Messages& messages = call.Told();
-    const Progress progress(messages, "Reading " + input.Name());
-    if (FindFormat(input.Text()).hasKeywords) {
-        messages.Fail(ToolKinds::keywordForm, input.Name(),
-                      "Expected the form with commas, found keywords, which this command can't "
-                      "read.");
+    const Progress progress(call.Told(), "Reading " + input.Name());
+    if (HasKeywords(input)) {
+        ThermalExportTable table;
+        ReadKeywords<ThermalKeywordReader>(input, call, table);
+        return table;
     }
+    RequireMetric(input, call);
     return RowReader(input, call).Read();
 }
 
@@ -260,7 +261,7 @@ void Show(Call& call) {
 void WriteRows(std::ostream& out, const ThermalExportTable& table) {
     const auto add = [&](const char* name, const Values& values) {
         Cells cells{name};
-        std::ranges::transform(values, std::back_inserter(cells), DataText);
+        std::ranges::transform(values, std::back_inserter(cells), ExactText);
         PrintCsvRow(out, cells);
     };
     add("standard", {table.StandardTemperature, table.StandardPressure});
@@ -285,8 +286,8 @@ void Convert(Call& call) {
     });
 }
 
-constexpr Option showOptions[] = {Options::json, Options::csv, Options::strict};
-constexpr Option convertOptions[] = {Options::toKeywordsOrCsv, Options::toUnits,
+constexpr Option showOptions[] = {Options::fromUnits, Options::json, Options::csv, Options::strict};
+constexpr Option convertOptions[] = {Options::toKeywordsOrCsv, Options::toUnits, Options::fromUnits,
                                      Options::highPrecision, Options::strict};
 constexpr Command commands[] = {
     {"thermal", "show", "Show the thermal data of a file's components, in model units", "IN",

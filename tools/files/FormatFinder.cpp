@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <limits>
 #include <string>
+#include <utility>
 
 namespace FluidBenchTool {
 
@@ -28,10 +29,12 @@ constexpr Sign signs[] = {
     {"SPECHA", "thermal"}, {"SPECHG", "thermal"}, {"HEATVAPS", "thermal"}, {"KVCR", "thermal"},
     {"KVWI", "thermal"}, {"THERMEX1", "thermal"},
     {"KVTABLE", "kvalues"},
-    {"CNAMES", "deck"}, {"NCOMPS", "deck"}, {"TCRIT", "deck"},
+    {"TCRIT", "deck"}, {"MW", "deck"},
     {"PVTO", "blackoil"}, {"PVDO", "blackoil"}, {"PVTG", "blackoil"}, {"PVDG", "blackoil"},
     {"ZMFVD", "depth"}, {"PBVD", "depth"}, {"PDVD", "depth"}, {"RSVD", "depth"}, {"RVVD", "depth"},
+    {"YMFVP", "compositions"}, {"XMFVP", "compositions"},
     {"DENSITY", "blackoil"}, {"RSCONSTT", "blackoil"},
+    {"CNAMES", "deck"}, {"NCOMPS", "deck"},
     {"RUNSPEC", "deck"}, {"PROPS", "deck"}, {"INCLUDE", "deck"}, {"FILEUNIT", "deck"},
 };
 
@@ -41,6 +44,7 @@ constexpr Sign cells[] = {
     {"components", "kvalues"}, {"record", "kvalues"},
     {"standard", "thermal"}, {"molecular weights", "thermal"},
     {"separator", "depth"}, {"contact", "depth"}, {"gas", "depth"}, {"oil", "depth"},
+    {"keyword", "depth"},
 };
 // clang-format on
 
@@ -83,7 +87,15 @@ FoundFormat FindFormat(std::istream& text) {
     Orv::Text::LineReader lines(text, longestLine, Orv::Text::LineReader::BehindCut::NextLine);
     std::size_t rank = std::size(signs);
     bool hasFlash = false;
+    bool isTitle = false; // the line below the keyword, which may be anything
     for (std::string_view line; rank > 0 && lines.Next(line);) {
+        if (std::exchange(isTitle, line == "TITLE") || line.starts_with("--")) {
+            continue;
+        }
+        rank = std::min(rank, RankOf(line));
+        if (rank < std::size(signs)) {
+            continue; // whatever stands below keywords
+        }
         if (holds(line, "BEGIN HEADER")) {
             return {"dfa"};
         }
@@ -94,7 +106,6 @@ FoundFormat FindFormat(std::istream& text) {
         if (const std::string_view format = FormatOfCells(line); !format.empty()) {
             return {format};
         }
-        rank = std::min(rank, RankOf(line));
     }
     return rank < std::size(signs) ? FoundFormat{signs[rank].format, true} : FoundFormat{};
 }

@@ -31,6 +31,9 @@ const char* WordOf(Severity severity) {
 } // namespace
 
 void Messages::Tell(const Diagnostic& diagnostic) {
+    if (diagnostic.severity == Severity::Note && !tellsNotes_) {
+        return;
+    }
     errors_ += diagnostic.severity == Severity::Error ? 1 : 0;
     warnings_ += diagnostic.severity == Severity::Warning ? 1 : 0;
     const auto called =

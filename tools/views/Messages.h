@@ -37,6 +37,9 @@ public:
     Messages(const Messages&) = delete;
     Messages& operator=(const Messages&) = delete;
 
+    /// Notes are told from here on; until then they aren't.
+    void TellNotes() noexcept { tellsNotes_ = true; }
+
     void Tell(const Orv::FluidBench::IO::Diagnostic& diagnostic);
     void Tell(const ToolKind& kind, const std::string& file, const std::string& sentence,
               std::uint64_t line = 0);
@@ -74,6 +77,7 @@ private:
     std::ostream& out_;
     bool isOnTerminal_;
     bool isStrict_;
+    bool tellsNotes_ = false;
     std::mutex mutex_; // of the stream and the line
     bool hasLine_ = false;
     std::uint64_t errors_ = 0;

@@ -1,5 +1,6 @@
 #include "Table.h"
 
+#include "NumberText.h"
 #include "Shown.h"
 
 #include <algorithm>
@@ -61,6 +62,10 @@ std::string FixedText(double value, int decimals) {
 }
 
 std::string ExactText(double value) {
+    double read = 0.0;
+    if (std::string text = DataText(value); Orv::Text::ParseNumber(text, read) && read == value) {
+        return text;
+    }
     std::array<char, 32> text;
     return {text.data(), std::to_chars(text.data(), text.data() + text.size(), value).ptr};
 }

@@ -18,7 +18,7 @@ std::string NumberText(double value, int significantDigits = 6);
 /// of up to 15 digits.
 std::string FixedText(double value, int decimals);
 
-/// The number with as many digits as it takes to read it back.
+/// The number with as many digits as it takes to read it back: 15, or up to 17.
 std::string ExactText(double value);
 
 /// The number with 15 digits: as it was typed, though its unit was converted there and back.
