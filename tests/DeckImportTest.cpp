@@ -432,6 +432,7 @@ TEST_F(DeckImportTest, TakesALineAlikeInEveryPlace) {
         {"1) ACF\n0 0.1 /\n", "1:did-you-mean"},
         {"1.ACF\n0 0.1 /\n", "1:did-you-mean"},
         {"\u0410\u0421F\n0 0.1 /\n", "1:did-you-mean"},
+        {"ACF\u00A00 0.1 /\n", "1:did-you-mean"},
         {"\u041C\u0430\u0441\u0441\u0430 W 5 /\n", ""},
         {"EOS\nPR\nMWS\n46 48 /\n", "3:refused"},
         {"METRIC units\n", ""},

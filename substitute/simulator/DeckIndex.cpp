@@ -103,10 +103,8 @@ std::string MayBeKeyword(const Token& token) {
 
 // A word and what decorates it, for a message.
 std::string DescribeWord(const std::string& ornament, const std::string& word) {
-    const bool isForeign = std::ranges::any_of(
-        word, [](char c) { return (static_cast<unsigned char>(c) & 0x80U) != 0; });
     std::string odd = Text::NameOddCharacter(word);
-    if (odd.empty() && isForeign) {
+    if (odd.empty() && HasForeignCharacters(word)) {
         odd = "with a letter of another alphabet";
     }
     const std::string where = ornament == "'"    ? " in quotes"

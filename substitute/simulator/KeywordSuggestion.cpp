@@ -81,9 +81,16 @@ std::size_t ErrorsBetween(std::string_view a, std::string_view b) noexcept {
 
 } // namespace
 
+bool HasForeignCharacters(std::string_view text) {
+    return std::ranges::any_of(text,
+                               [](char c) { return (static_cast<unsigned char>(c) & 0x80U) != 0; });
+}
+
 std::string BareKeyword(std::string_view text) {
-    const std::string latin = InLatinLetters(text);
-    std::string_view word = latin;
+    constexpr std::string_view noBreakSpace = "\u00A0";
+    const bool isForeign = HasForeignCharacters(text);
+    const std::string latin = isForeign ? InLatinLetters(text) : std::string();
+    std::string_view word = isForeign ? latin : text;
     std::string bare;
     const auto begins =
         std::ranges::find_if(word, [](char c) { return Text::IsLetter(c) || Text::IsDigit(c); });
@@ -94,6 +101,7 @@ std::string BareKeyword(std::string_view text) {
         (word[digits] == '.' || word[digits] == ')')) {
         word.remove_prefix(digits + 1);
     }
+    word = word.substr(0, word.find(noBreakSpace));
     for (const char c : word.substr(0, word.find_first_of("([{<:;=,"))) {
         if (Text::IsLetter(c) || Text::IsDigit(c)) {
             bare += c;

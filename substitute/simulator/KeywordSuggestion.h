@@ -12,6 +12,9 @@ namespace Orv::Kes::KesModel {
 /// "1.TCRIT" and "TCRIT(K)" give "TCRIT".
 std::string BareKeyword(std::string_view text);
 
+/// Whether there are others than ASCII characters in it.
+bool HasForeignCharacters(std::string_view text);
+
 /// The keyword that differs from the word, which is in capitals, by a typing error: one letter
 /// changed, lost, added or swapped with its neighbour where the keyword has four letters or more,
 /// two such where it has six or more. Empty where none does, and for a word that simulators know as

@@ -12,6 +12,7 @@
 #include "Kes/KesModel/KeywordTracker.h"
 #include "Kes/KesModel/Log.h"
 #include "Messages.h"
+#include "NumberText.h"
 #include "PVOCompositionalModelAdaptor.h"
 #include "PVOFluidModelsAdaptor.h"
 #include "PVOKeywordModelValidator.h"
@@ -264,13 +265,15 @@ std::optional<double> PVOImporter::ReservoirTemperatureOf(const PVOCompositional
         return std::nullopt;
     }
     const double degrees = table.getTemperature(0);
-    const double kelvin = unitSystem == pvtEnumPVOUnitSystemType::Field
-                              ? Common::Units::Temperature_F_To_K(degrees)
-                              : degrees + kelvinAtZeroCelsius;
+    const bool isField = unitSystem == pvtEnumPVOUnitSystemType::Field;
+    const double kelvin =
+        isField ? Common::Units::Temperature_F_To_K(degrees) : degrees + kelvinAtZeroCelsius;
     if (!std::isfinite(kelvin) || kelvin < 0.0) {
-        places.Tell(DeckKinds::valueDropped,
-                    "expected a temperature above absolute zero, found one below; the fluid comes "
-                    "without it.");
+        std::string found;
+        Text::AppendNumber(found, degrees, {});
+        places.Tell(DeckKinds::valueDropped, "expected a temperature above absolute zero, found " +
+                                                 found + (isField ? " degrees F" : " degrees C") +
+                                                 "; the fluid comes without it.");
         return std::nullopt;
     }
     return kelvin;
