@@ -187,6 +187,11 @@ TEST_F(ToolTest, TellsWhatAFileOfTablesCantGive) {
                                         "[tool.water-density]\n";
     folder.Write("both.inc", "FILEUNIT\nMETRIC /\nDENSITY\n800 1000 1 /\nPVTO\n10 50 1.1 0.5 /\n/\n"
                              "PVDO\n50 1.1 0.5\n100 1.0 0.6 /\n");
+    const auto note = [&](const std::string& region) {
+        return regions + ": note: Expected a water density of 1000 kg/m3 in region " + region +
+               ", found 1020, which the table holds; a file that is written of it has 1000. "
+               "[keywords.water-density]\n";
+    };
     const Case cases[] = {
         {"blackoil convert @two-region-black-oil.inc out --region 3", 1, "",
          regions + ": error: Expected a region 3, found 2 in all. [tool.no-such-region]\n"},
@@ -202,6 +207,10 @@ TEST_F(ToolTest, TellsWhatAFileOfTablesCantGive) {
         {"kvalues show @two-temperatures-k-values.inc --from-units metric", 1, "",
          "@two-temperatures-k-values.inc:3: error: Expected METRIC units, as were told beside the "
          "file, found 'FILEUNIT FIELD'. [keywords.units-contradicted]\n"},
+        {"check @two-region-black-oil.inc", 0, regions + ": blackoil, good\n",
+         note("1") + note("2")},
+        {"compositions show @north-flank-compositions.inc --strict --csv | head -1", 0,
+         "table,phase,pressure bar,1,2,3\n", ""},
         {"depth convert @north-flank-depth.inc out --table compositions", 0, "", ""},
         {"depth plot @north-flank-depth.inc out.svg", 0, "out.svg\n", ""},
     };

@@ -85,7 +85,7 @@ std::string Shown(double number) {
 // back one by one when they are converted, so that the rows never take twice their memory.
 struct Table {
     std::deque<std::vector<Entry>> blocks;
-    std::vector<std::size_t> recordEnds;
+    std::vector<std::size_t> recordEnds; // none where every row is a record
     std::size_t size = 0;
     std::uint64_t line = 0;
 
@@ -128,7 +128,8 @@ public:
                 records.AddEntry(record, pressure.ToModel(entry.pressure), ratio,
                                  volumeFactor.ToModel(entry.formationVolumeFactor),
                                  viscosity.ToModel(entry.viscosity));
-                record += ++index == table.recordEnds[record] ? 1 : 0;
+                ++index;
+                record += layout.showsEachRow || index == table.recordEnds[record] ? 1 : 0;
             }
         }
         return records;
@@ -263,9 +264,6 @@ void Reader::ReadDeadRows(const Layout& layout, Table& table) {
             RequireOrder(RowOrder::Rising, table.Last().pressure, row[0], "that of the row ahead");
         }
         AddRow(layout, table, 0.0, row.data());
-        if (layout.showsEachRow) {
-            table.recordEnds.push_back(table.size);
-        }
     }
     if (!layout.showsEachRow && table.size > 0) {
         table.recordEnds.push_back(table.size);
@@ -329,11 +327,13 @@ void Reader::TellOfRegions(std::size_t regions, bool isField) {
     }
     constexpr double writtenWaterDensity = 1000.0;
     constexpr double digitsOfFile = 1e-6;
-    for (const auto& densities : content_.densities) {
-        const double water = FileNumber(DensityUnit(isField), false).ToModel(densities[1]);
+    for (std::size_t i = 0; i < content_.densities.size(); ++i) {
+        const double water =
+            FileNumber(DensityUnit(isField), false).ToModel(content_.densities[i][1]);
         if (std::abs(water - writtenWaterDensity) > digitsOfFile) {
             walker_.Tell(Kinds::waterDensity, 0,
-                         "Expected a water density of 1000 kg/m3, found " + Shown(water) +
+                         "Expected a water density of 1000 kg/m3 in region " +
+                             std::to_string(i + 1) + ", found " + Shown(water) +
                              ", which the table holds; a file that is written of it has 1000.");
         }
     }

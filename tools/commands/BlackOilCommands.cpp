@@ -46,8 +46,7 @@ BlackOilFile ReadBlackOil(Input& input, Call& call) {
     Messages& messages = call.Told();
     const Progress progress(messages, "Reading " + input.Name());
     BlackOilFile file;
-    file.hasKeywords = HasKeywords(input);
-    if (file.hasKeywords) {
+    if (HasKeywords(input)) {
         ReadKeywords<BlackOilKeywordReader>(input, call, file.regions);
         return file;
     }

@@ -14,7 +14,6 @@ namespace FluidBenchTool {
 
 struct BlackOilFile {
     std::vector<Orv::FluidBench::Model::BlackOilTable> regions;
-    bool hasKeywords = false;
 };
 
 struct DepthRun {
