@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 namespace FluidBenchTool {
 
@@ -127,18 +128,20 @@ const BlackOilUnits& GasUnits(bool field) {
 }
 
 BlackOilRows::BlackOilRows(const BlackOilDataRecords& records) {
-    ends_.reserve(records.GetTableSize());
+    std::vector<std::uint64_t> ends;
+    ends.reserve(records.GetTableSize());
     std::uint64_t end = 0;
     for (std::uint64_t record = 0; record < records.GetTableSize(); ++record) {
         end += records.GetRecordContentSize(record);
-        ends_.push_back(end);
+        ends.push_back(end);
     }
+    ends_ = std::make_shared<const std::vector<std::uint64_t>>(std::move(ends));
 }
 
 BlackOilRows::Place BlackOilRows::Find(std::uint64_t row) const {
-    const auto end = std::ranges::upper_bound(ends_, row);
-    const auto record = static_cast<std::uint64_t>(end - ends_.begin());
-    return {record, record == 0 ? row : row - ends_[record - 1]};
+    const auto end = std::ranges::upper_bound(*ends_, row);
+    const auto record = static_cast<std::uint64_t>(end - ends_->begin());
+    return {record, record == 0 ? row : row - (*ends_)[record - 1]};
 }
 
 void PrintBlackOil(std::ostream& out, Regions regions, bool field, Extent extent) {

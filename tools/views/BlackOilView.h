@@ -6,6 +6,7 @@
 #include "ShownUnit.h"
 #include "Table.h"
 
+#include <memory>
 #include <ostream>
 #include <span>
 #include <vector>
@@ -22,11 +23,12 @@ public:
         std::uint64_t record;
         std::uint64_t entry;
     };
-    std::uint64_t Count() const { return ends_.empty() ? 0 : ends_.back(); }
+    std::uint64_t Count() const { return ends_->empty() ? 0 : ends_->back(); }
     Place Find(std::uint64_t row) const;
 
 private:
-    std::vector<std::uint64_t> ends_; // one past the last row of each record
+    // One past the last row of each record; copies of the object share them.
+    std::shared_ptr<const std::vector<std::uint64_t>> ends_;
 };
 
 /// The units in which oil or gas is shown.
