@@ -95,7 +95,10 @@ std::string_view FirstCell(std::string_view line) noexcept {
 
 // A spreadsheet fills its lines up with commas.
 std::string_view WithoutPadding(std::string_view text) noexcept {
-    return text.substr(0, text.find_last_not_of(", \t") + 1);
+    while (!text.empty() && (text.back() == ',' || text.back() == ' ' || text.back() == '\t')) {
+        text.remove_suffix(1);
+    }
+    return text;
 }
 
 // What people write ahead of a line's numbers.
@@ -227,7 +230,6 @@ private:
     bool IsHeading(std::string_view line);
     void Units(std::string_view behind);
     void WithoutEffect(std::string_view line, const LeadingWord& leading);
-    void FirstCellOf(std::string_view line);
     void Tell(const Impl::IO::DiagnosticKind& kind, const std::string& sentence) {
         diagnostics_.Tell(kind, lines_.Number(), sentence);
     }
@@ -346,16 +348,6 @@ bool Watch::IsHeading(std::string_view line) {
     return false;
 }
 
-// Nobody reads it, so it should hold nothing.
-void Watch::FirstCellOf(std::string_view line) {
-    const std::string_view cell = FirstCell(line);
-    if (!Bare(cell).empty()) {
-        Tell(Kinds::firstCell, "Expected an empty first cell, found " + Quote(cell) +
-                                   ", which isn't read; the numbers are those of the four cells "
-                                   "behind it.");
-    }
-}
-
 void Watch::SkippedRow(std::string_view line) {
     const std::string_view text = WithoutPadding(line);
     const LeadingWord leading = LeadingWordOf(text);
@@ -379,17 +371,21 @@ void Watch::SkippedRow(std::string_view line) {
 }
 
 void Watch::TakenRow(std::string_view line, const Row& row) {
-    const bool isHeading = IsHeading(line);
+    const std::string_view first = FirstCell(line);
+    const bool isPlain = Bare(first).empty(); // as nearly every row
+    const bool isHeading = !isPlain && IsHeading(line);
     hasRows_ = true;
-    if (line.substr(line.find(',')).find_first_not_of(", \t\"") == std::string_view::npos) {
+    if (line.substr(first.size()).find_first_not_of(", \t\"") == std::string_view::npos) {
         Tell(Kinds::paddedRow, "Expected a row of numbers, found separators alone in " +
                                    Quote(WithoutPadding(line)) +
                                    "; it counts as a row of zeros. An empty line ends a record, so "
                                    "delete what is on this one.");
         return;
     }
-    if (!isHeading) {
-        FirstCellOf(line);
+    if (!isPlain && !isHeading) {
+        Tell(Kinds::firstCell, "Expected an empty first cell, found " + Quote(first) +
+                                   ", which isn't read; the numbers are those of the four cells "
+                                   "behind it.");
     }
     const Cells cells = SplitRow(line);
     for (std::size_t i = 0; i < cells.size(); ++i) {
