@@ -123,7 +123,7 @@ bool TakeSign(std::string_view& text) noexcept {
 }
 
 // A number without its sign, and what stands behind it.
-struct Magnitude {
+struct MagnitudeOfText {
     double value = 0.0;
     bool isThere = false;
     bool isTooLarge = false;
@@ -163,8 +163,8 @@ bool IsHuge(std::string_view number, std::chars_format notation) noexcept {
     return place * (isHexadecimal ? 4 : 1) + exponent > 0;
 }
 
-Magnitude ReadMagnitude(std::string_view text, std::chars_format notation) noexcept {
-    Magnitude number;
+MagnitudeOfText ReadMagnitude(std::string_view text, std::chars_format notation) noexcept {
+    MagnitudeOfText number;
     if (notation == std::chars_format::general) {
         const char* const textEnd = text.data() + text.size();
         const char* const end = ReadPlainDecimal(text.data(), textEnd, number.value);
@@ -189,30 +189,30 @@ Magnitude ReadMagnitude(std::string_view text, std::chars_format notation) noexc
     return number;
 }
 
-Magnitude ReadDecimal(std::string_view text) noexcept {
+MagnitudeOfText ReadDecimal(std::string_view text) noexcept {
     const bool isDecimal = !text.empty() && (IsDigit(text.front()) || text.front() == '.');
-    return isDecimal ? ReadMagnitude(text, std::chars_format::general) : Magnitude();
+    return isDecimal ? ReadMagnitude(text, std::chars_format::general) : MagnitudeOfText();
 }
 
 // A sign without a number behind it isn't minus zero.
-double Signed(bool isNegative, const Magnitude& number) noexcept {
+double Signed(bool isNegative, const MagnitudeOfText& number) noexcept {
     return isNegative && number.isThere ? -number.value : number.value;
 }
 
-Magnitude ReadMagnitudeAsAtof(std::string_view text) noexcept {
+MagnitudeOfText ReadMagnitudeAsAtof(std::string_view text) noexcept {
     if (text.starts_with("0x") || text.starts_with("0X")) {
         // Some standard libraries take the exponent of "1p+-1" for a number.
         const std::string_view digits = text.substr(2, text.find("+-") - 2);
         const bool isNumber =
             !digits.empty() && (IsHexadecimalDigit(digits.front()) || digits.front() == '.');
-        const Magnitude number =
-            isNumber ? ReadMagnitude(digits, std::chars_format::hex) : Magnitude();
+        const MagnitudeOfText number =
+            isNumber ? ReadMagnitude(digits, std::chars_format::hex) : MagnitudeOfText();
         if (number.isThere) {
             return number;
         }
     }
     const bool hasSecondSign = text.starts_with('-') || text.starts_with('+');
-    return hasSecondSign ? Magnitude() : ReadMagnitude(text, std::chars_format::general);
+    return hasSecondSign ? MagnitudeOfText() : ReadMagnitude(text, std::chars_format::general);
 }
 
 // The whole text as a plain decimal with an optional minus sign.
@@ -322,7 +322,7 @@ void WriteNumber(std::ostream& out, std::uint64_t value) {
 const char* AnyNumber::ReadAsAtof(const char* begin, const char* end, double& number) noexcept {
     std::string_view text = SkipSpace({begin, static_cast<std::size_t>(end - begin)});
     const bool isNegative = TakeSign(text);
-    const Magnitude magnitude = ReadMagnitudeAsAtof(text);
+    const MagnitudeOfText magnitude = ReadMagnitudeAsAtof(text);
     number = Signed(isNegative, magnitude);
     // What a hexadecimal number was looked for in may end ahead of the text.
     return magnitude.isThere ? magnitude.rest.data() : begin;
@@ -332,7 +332,7 @@ const char* AnyNumber::ReadLeadingDecimal(const char* begin, const char* end,
                                           double& number) noexcept {
     std::string_view text = SkipSpace({begin, static_cast<std::size_t>(end - begin)});
     const bool isNegative = TakeSign(text);
-    const Magnitude magnitude = ReadDecimal(text);
+    const MagnitudeOfText magnitude = ReadDecimal(text);
     number = Signed(isNegative, magnitude);
     return magnitude.isThere ? magnitude.rest.data() : begin;
 }
@@ -340,7 +340,7 @@ const char* AnyNumber::ReadLeadingDecimal(const char* begin, const char* end,
 const char* AnyNumber::ReadExtracted(const char* begin, const char* end, double& number) noexcept {
     std::string_view digits = SkipSpace({begin, static_cast<std::size_t>(end - begin)});
     const bool isNegative = TakeSign(digits);
-    const Magnitude magnitude = ReadDecimal(digits);
+    const MagnitudeOfText magnitude = ReadDecimal(digits);
     if (!magnitude.isThere || magnitude.isTooLarge) {
         return nullptr;
     }

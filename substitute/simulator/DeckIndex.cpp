@@ -876,4 +876,9 @@ DeckIndex::DeckIndex(const std::string& fileName, const DeckVocabulary& vocabula
     end_.line = IndexBuilder(vocabulary, log, keywords_, elsewhere_).Read(*deck);
 }
 
+const KeywordPlace* DeckIndex::Find(std::string_view keyword) const noexcept {
+    const auto found = std::ranges::find(keywords_, keyword, &KeywordPlace::keyword);
+    return found == keywords_.end() ? nullptr : &*found;
+}
+
 } // namespace Orv::Kes::KesModel

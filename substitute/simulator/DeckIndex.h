@@ -82,6 +82,9 @@ public:
     /// more than once it is the last one.
     const std::vector<KeywordPlace>& Keywords() const noexcept { return keywords_; }
 
+    /// That keyword of them; null where the deck lacks it.
+    const KeywordPlace* Find(std::string_view keyword) const noexcept;
+
     /// The keywords of the whole deck that stand in sections which hold no wanted ones. Whether
     /// their records are sound isn't known.
     const std::vector<KeywordPlace>& Elsewhere() const noexcept { return elsewhere_; }

@@ -5,6 +5,8 @@
 #include "KeywordError.h"
 #include "Quote.h"
 
+#include <new>
+
 namespace Orv::Kes::KesModel {
 
 using Text::KeywordFileError;
@@ -38,6 +40,16 @@ const DeckProblem& ProblemOf(const std::exception& error) {
     return Problems::refused;
 }
 
+std::string SentenceOf(const std::exception& error) {
+    if (const auto* const located = dynamic_cast<const KeywordFileError*>(&error)) {
+        return located->Sentence();
+    }
+    if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr) {
+        return "expected memory for the deck, found none left.";
+    }
+    return error.what();
+}
+
 } // namespace
 
 void DeckLog::Tell(const DeckProblem& problem, const FilePlace& place,
@@ -53,7 +65,7 @@ void DeckLog::TellFailure(const std::exception& error, const std::string& deck) 
     Log::getCurrentLogger()->write(Log::Error, error.what());
     const auto* const located = dynamic_cast<const KeywordFileError*>(&error);
     Listen(ProblemOf(error), located != nullptr ? located->Place() : FilePlace{deck, 0},
-           located != nullptr ? located->Sentence() : error.what());
+           SentenceOf(error));
 }
 
 void DeckLog::TellPassedOver(std::string_view keyword, const FilePlace& place) {

@@ -42,14 +42,9 @@ constexpr CheckedProperty properties[] = {
 
 constexpr double tolerance = 0.001 + 1e-9; // of a sum of fractions, with what rounding adds
 
-const KeywordPlace* FindPlace(const DeckIndex& index, std::string_view keyword) {
-    const auto found = std::ranges::find(index.Keywords(), keyword, &KeywordPlace::keyword);
-    return found == index.Keywords().end() ? nullptr : &*found;
-}
-
 // Where the keyword stands, or the deck as a whole.
 FilePlace PlaceFor(const DeckIndex& index, std::string_view keyword) {
-    const KeywordPlace* const place = FindPlace(index, keyword);
+    const KeywordPlace* const place = index.Find(keyword);
     return place != nullptr ? place->line : FilePlace{index.End().file, 0};
 }
 

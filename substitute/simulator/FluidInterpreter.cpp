@@ -354,16 +354,11 @@ const FluidKeyword* Find(std::string_view name) {
 
 // The names, on which everything else depends.
 
-const KeywordPlace* FindPlace(const DeckIndex& index, std::string_view keyword) {
-    const auto found = std::ranges::find(index.Keywords(), keyword, &KeywordPlace::keyword);
-    return found == index.Keywords().end() ? nullptr : &*found;
-}
-
 // A deck that was written for a fluid without components says so.
 bool SaysNoComponents(const DeckIndex& index) {
     return std::ranges::any_of(
         std::initializer_list<std::string_view>{"NCOMPS", "COMPS"}, [&](std::string_view keyword) {
-            const KeywordPlace* const place = FindPlace(index, keyword);
+            const KeywordPlace* const place = index.Find(keyword);
             return place != nullptr && KeywordRecord(*place).ReadCount() == 0;
         });
 }
@@ -395,7 +390,7 @@ bool LooksJoined(std::string_view name) {
 
 std::vector<std::string> ReadNames(const DeckIndex& index, DeckLog& log) {
     const std::string meaning = "the names of the components";
-    const KeywordPlace* const place = FindPlace(index, "CNAMES");
+    const KeywordPlace* const place = index.Find("CNAMES");
     if (place == nullptr) {
         throw KeywordError(index.End(), "CNAMES", meaning, "no such keyword in the deck");
     }

@@ -18,7 +18,6 @@ constexpr double sampleWidth = 40.0;
 constexpr double sampleDistance = 10.0;
 constexpr double lineHeight = 22.0;
 constexpr double secondLineHeight = 16.0;
-constexpr double halfOfCapitals = 4.5;
 constexpr double textSize = 13.0;
 constexpr double secondSize = 11.5;
 

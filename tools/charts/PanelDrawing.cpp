@@ -21,7 +21,6 @@ constexpr double yTitleBase = 26.0;
 constexpr double tickLength = 6.0;
 constexpr double minorTickLength = 3.0;
 constexpr double dotRadius = 3.5; // of a curve that is a point alone to the eye
-constexpr double halfOfCapitals = 4.5;
 constexpr double labelSize = 11.0;
 constexpr double smallFrame = 300.0; // of this height takes smaller texts and closer ticks
 

@@ -17,7 +17,9 @@ struct Box {
     double Height() const { return bottom - top; }
 };
 
-constexpr double markerRadius = 5.5;
+inline constexpr double markerRadius = 5.5;
+/// How far below its middle a text begins, in units of the picture.
+inline constexpr double halfOfCapitals = 4.5;
 inline const Stroke markerRim{"#ffffff", 1.5};
 
 /// Draws the panel with its axes in the box, which holds their numbers and names too. Gives the

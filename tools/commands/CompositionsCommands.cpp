@@ -18,9 +18,6 @@ using Orv::FluidBench::IO::CompositionTableReader;
 
 namespace {
 
-constexpr ShownUnit bar{"bar", Units::Pressure_Pa_To_bar};
-constexpr ShownUnit psia{"psia", Units::Pressure_Pa_To_psi};
-
 using Tables = std::vector<CompositionTable>;
 
 struct Phase {

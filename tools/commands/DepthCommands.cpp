@@ -42,8 +42,6 @@ constexpr Option table{
 // clang-format off
 constexpr ShownUnit metre{"m"};
 constexpr ShownUnit foot {"ft",       Units::Depth_m_to_ft};
-constexpr ShownUnit bar  {"bar",      Units::Pressure_Pa_To_bar};
-constexpr ShownUnit psia {"psia",     Units::Pressure_Pa_To_psi};
 constexpr ShownUnit ratio{"m3/m3"};
 constexpr ShownUnit mscf {"Mscf/stb", Units::GOR_m3m3_To_Mscfstb};
 constexpr ShownUnit stb  {"stb/Mscf", [](double oilGasRatio) {

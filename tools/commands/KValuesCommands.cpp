@@ -30,8 +30,6 @@ namespace {
 constexpr double noTemperature = -1.0; // what a table without one has
 
 // clang-format off
-constexpr ShownUnit bar   {"bar",  Units::Pressure_Pa_To_bar};
-constexpr ShownUnit psia  {"psia", Units::Pressure_Pa_To_psi};
 constexpr ShownUnit kelvin{"K"};
 constexpr ShownUnit fahrenheit{"F", Units::Temperature_K_To_F};
 // clang-format on

@@ -15,8 +15,6 @@ using Orv::FluidBench::Model::BlackOilTable;
 namespace {
 
 // clang-format off
-constexpr ShownUnit bar {"bar",  Units::Pressure_Pa_To_bar};
-constexpr ShownUnit psia{"psia", Units::Pressure_Pa_To_psi};
 constexpr ShownUnit cP  {"cP",   Units::Viscosity_Pas_To_cp};
 constexpr ShownUnit same{"m3/m3"};
 

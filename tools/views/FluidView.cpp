@@ -36,8 +36,6 @@ struct Property {
 constexpr ShownUnit number{};
 constexpr ShownUnit kelvin {"K",    };
 constexpr ShownUnit rankine{"R",    Units::Temperature_K_To_R};
-constexpr ShownUnit bar    {"bar",  Units::Pressure_Pa_To_bar};
-constexpr ShownUnit psia   {"psia", Units::Pressure_Pa_To_psi};
 constexpr ShownUnit cubicMetres{"m3/kg-mole",  Units::MolarVolume_m3gmmol_To_m3kgmol};
 constexpr ShownUnit cubicFeet  {"ft3/lb-mole", Units::MolarVolume_m3gmmol_To_ft3lbmol};
 
