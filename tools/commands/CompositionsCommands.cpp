@@ -105,11 +105,7 @@ void Write(std::ostream& out, const Tables& tables) {
         json.BeginObject();
         json.Add("pressures", table.Pressures);
         for (const Phase& phase : phases) {
-            json.BeginArray(phase.key);
-            for (const std::vector<double>& row : table.*phase.fractions) {
-                json.Add({}, row);
-            }
-            json.EndArray();
+            json.AddRows(phase.key, table.*phase.fractions);
         }
         json.EndObject();
     }

@@ -307,11 +307,7 @@ void Write(std::ostream& out, const DepthFile& file) {
         json.BeginObject();
         json.Add("keyword", ofDepth.Keyword);
         json.Add("depths", ofDepth.Depths);
-        json.BeginArray("values");
-        for (const std::vector<double>& values : ofDepth.Values) {
-            json.Add({}, values);
-        }
-        json.EndArray();
+        json.AddRows("values", ofDepth.Values);
         json.EndObject();
     }
     json.EndArray();

@@ -164,11 +164,7 @@ void Write(std::ostream& out, const std::vector<WellData>& wells) {
             json.Add(quantity.key, values);
         }
         json.Add("stationValues", well.stationValues);
-        json.BeginArray("compositions");
-        for (const std::vector<double>& composition : well.compositions) {
-            json.Add({}, composition);
-        }
-        json.EndArray();
+        json.AddRows("compositions", well.compositions);
         json.EndObject();
     }
     json.EndArray();

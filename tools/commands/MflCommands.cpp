@@ -53,11 +53,7 @@ void Show(Call& call) {
         json.BeginObject();
         json.Add("format", "mfl");
         WriteFluid(json, file.fluid);
-        json.BeginArray("streams");
-        for (const std::vector<double>& stream : file.streams) {
-            json.Add({}, stream);
-        }
-        json.EndArray();
+        json.AddRows("streams", file.streams);
         json.EndObject();
         break;
     }

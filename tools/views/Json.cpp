@@ -85,4 +85,12 @@ void JsonWriter::Add(std::string_view key, std::span<const std::string> values) 
     WriteArray(out_, values);
 }
 
+void JsonWriter::AddRows(std::string_view key, std::span<const std::vector<double>> rows) {
+    BeginArray(key);
+    for (const std::vector<double>& row : rows) {
+        Add({}, row);
+    }
+    EndArray();
+}
+
 } // namespace FluidBenchTool

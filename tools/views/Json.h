@@ -37,6 +37,8 @@ public:
     /// Arrays on one line.
     void Add(std::string_view key, std::span<const double> values);
     void Add(std::string_view key, std::span<const std::string> values);
+    /// An array of rows, each on a line.
+    void AddRows(std::string_view key, std::span<const std::vector<double>> rows);
 
 private:
     void Begin(std::string_view key, char bracket);
