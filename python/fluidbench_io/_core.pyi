@@ -28,7 +28,7 @@ def read_black_oil_csv(source: _Source, name: str) -> _Answer: ...
 def read_black_oil_keywords(source: _Source, name: str, units: str) -> _Answer: ...
 def write_black_oil(
     write: _Write,
-    region: Dict[str, Any],
+    regions: List[Dict[str, Any]],
     csv: bool,
     units: str,
     oil: str,

@@ -210,6 +210,29 @@ def _columns(
     return (record,) + tuple(values[name] for name in core)
 
 
+def _by_region(frame: pd.DataFrame, what: str, regions: "pd.Index[Any]") -> Dict[Any, pd.DataFrame]:
+    """The rows of each region; those of one alone need no column that says so."""
+    _frames.require_frame(frame, what)
+    if len(regions) == 1:
+        return {regions[0]: frame}
+    _frames.require_columns(frame, what, ["region"], list(frame.columns))
+    unknown = frame[~frame["region"].isin(regions)]
+    if len(unknown):
+        raise FluidBenchError(
+            f"{what} has rows of a region {unknown['region'].iloc[0]}, which regions lacks"
+        )
+    return {number: frame[frame["region"] == number].reset_index(drop=True) for number in regions}
+
+
+def _kind(regions: pd.DataFrame, phase: str, usual: str) -> str:
+    kinds = [str(kind) for kind in regions[phase].unique() if kind]
+    if len(kinds) > 1:
+        raise FluidBenchError(
+            f"the regions have {' and '.join(kinds)} {phase}: tables= tells what to write"
+        )
+    return kinds[0] if kinds else usual
+
+
 def write_black_oil(
     table: BlackOil,
     path: Writable,
@@ -218,11 +241,11 @@ def write_black_oil(
     tables: Optional[str] = None,
     high_precision: bool = False,
 ) -> None:
-    """Writes the tables of one region.
+    """Writes the tables of all regions.
 
-    `form` is "keyword" or "csv". `units` are "metric" or "field"; the numbers of comma-separated
+    `form` is "keyword", or "csv", which holds one region. `units` are "metric" or "field"; the numbers of comma-separated
     text are metric always. `tables` tells which tables the rows go into: "live-wet" (PVTO and
-    PVTG), "live-dry", "dead-wet" or "dead-dry"; unless given, the kinds that the region has.
+    PVTG), "live-dry", "dead-wet" or "dead-dry"; unless given, the kinds that the regions have.
     `high_precision` gives 15 decimals in place of 8. The water density is written as 1000 kg/m3.
 
         >>> write_black_oil(read_black_oil("pvt.csv"), "pvt.inc", units="field")
@@ -231,17 +254,22 @@ def write_black_oil(
         raise TypeError(f"table has to be a BlackOil, not {type(table).__name__}")
     _frames.choice(form, "form", ("keyword", "csv"))
     _frames.choice(units, "units", _frames.METRIC_OR_FIELD)
-    if len(table.regions) != 1:
-        raise FluidBenchError(
-            f"a file holds one region, and there are {len(table.regions)}: write table.region(n)"
-        )
-    region = table.regions.iloc[0]
+    count = len(table.regions)
+    if form == "csv" and count > 1:
+        raise FluidBenchError(f"csv holds one region, and there are {count}: write table.region(n)")
+    if count == 0 or table.regions.index.has_duplicates:
+        raise FluidBenchError(f"regions has to have a row for each, not {list(table.regions.index)}")
     if tables is None:
-        tables = f"{region['oil'] or 'live'}-{region['gas'] or 'wet'}"
+        tables = f"{_kind(table.regions, 'oil', 'live')}-{_kind(table.regions, 'gas', 'wet')}"
     oil, gas = _frames.choice(tables, "tables", TABLES).split("-")
-    raw: Dict[str, Any] = {name: _frames.number(region[name], name) for name in _NUMBERS}
-    raw[_KIND_OF_OIL[oil]] = _columns(table.oil, "oil", _OIL, _CORE_OIL)
-    raw[_KIND_OF_GAS[gas]] = _columns(table.gas, "gas", _GAS, _CORE_GAS, gas == "wet")
+    rows_of_oil = _by_region(table.oil, "oil", table.regions.index)
+    rows_of_gas = _by_region(table.gas, "gas", table.regions.index)
+    raw: List[Dict[str, Any]] = []
+    for number, region in table.regions.iterrows():
+        part: Dict[str, Any] = {name: _frames.number(region[name], name) for name in _NUMBERS}
+        part[_KIND_OF_OIL[oil]] = _columns(rows_of_oil[number], "oil", _OIL, _CORE_OIL)
+        part[_KIND_OF_GAS[gas]] = _columns(rows_of_gas[number], "gas", _GAS, _CORE_GAS, gas == "wet")
+        raw.append(part)
     with replacing(path) as write:
         _, findings = unpack(
             _core.write_black_oil(write, raw, form == "csv", units, oil, gas, bool(high_precision))

@@ -137,16 +137,20 @@ Writer::EXPORT_TYPE TablesFromPython(const std::string& oil, const std::string& 
                          : (gas == "wet" ? Writer::DEAD_OIL_WET_GAS : Writer::DEAD_OIL_DRY_GAS);
 }
 
-py::tuple Write(const py::function& write, const py::dict& region, bool csv,
+py::tuple Write(const py::function& write, const py::list& regions, bool csv,
                 const std::string& units, const std::string& oil, const std::string& gas,
                 bool highPrecision) {
-    const BlackOilTable table = TableFromPython(region);
+    std::vector<BlackOilTable> tables;
+    for (const py::handle region : regions) {
+        tables.push_back(TableFromPython(region.cast<py::dict>()));
+    }
+    const auto choice = TablesFromPython(oil, gas);
     const auto unitType = UnitsFromPython(units);
     Findings findings;
     findings.Add(WriteTo(write, [&](std::ostream& out) {
-        return Writer(highPrecision)
-            .ExportToFile(table, out, unitType, TablesFromPython(oil, gas),
-                          csv ? Writer::CSV : Writer::PVO);
+        const Writer writer(highPrecision);
+        return csv ? writer.ExportToFile(tables.at(0), out, unitType, choice, Writer::CSV)
+                   : writer.ExportRegions(tables, out, unitType, choice);
     }));
     return findings.With(py::none());
 }
@@ -157,7 +161,7 @@ void AddBlackOil(py::module_& module) {
     module.def("read_black_oil_csv", ReadCsv, py::arg("source"), py::arg("name"));
     module.def("read_black_oil_keywords", ReadKeywordFile, py::arg("source"), py::arg("name"),
                py::arg("units"));
-    module.def("write_black_oil", Write, py::arg("write"), py::arg("region"), py::arg("csv"),
+    module.def("write_black_oil", Write, py::arg("write"), py::arg("regions"), py::arg("csv"),
                py::arg("units"), py::arg("oil"), py::arg("gas"), py::arg("high_precision"));
 }
 

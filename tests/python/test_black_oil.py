@@ -65,6 +65,19 @@ def test_rows_go_into_the_tables_that_are_asked_for(pvt):
     assert text_of(fb.BlackOil.of_one_region(oil=pvt.oil, tables="dead-wet")).count("PVDO\n") == 1
 
 
+def test_all_regions_come_back():
+    field = fb.read_black_oil(DATA / "two-region-black-oil.inc")
+    back = fb.read_black_oil(io.StringIO(text_of(field)))
+    pd.testing.assert_frame_equal(back.oil, field.oil, rtol=1e-6)
+    pd.testing.assert_frame_equal(back.gas, field.gas, rtol=1e-3)
+    assert back.regions["oil_density"].tolist() == pytest.approx([830.0, 805.0])
+    with pytest.raises(fb.FluidBenchError, match="2: write table.region"):
+        text_of(field, form="csv")
+    field.oil["region"] = 3
+    with pytest.raises(fb.FluidBenchError, match="oil has rows of a region 3"):
+        text_of(field)
+
+
 def test_bad_tables_are_refused(pvt, tmp_path):
     cases = [
         ("oil", lambda f: f.drop(columns="viscosity"), fb.FluidBenchError, "lacks the column"),
@@ -74,7 +87,7 @@ def test_bad_tables_are_refused(pvt, tmp_path):
         ("gas", lambda f: f.assign(record=np.inf), fb.FluidBenchError, "inf in row 0"),
         ("gas", lambda f: f.values, TypeError, "pandas.DataFrame, not ndarray"),
         ("regions", lambda f: f.assign(oil_density=np.nan), fb.FluidBenchError, "oil_density"),
-        ("regions", lambda f: pd.concat([f, f]), fb.FluidBenchError, "2: write table.region"),
+        ("regions", lambda f: pd.concat([f, f]), fb.FluidBenchError, r"a row for each, not \[1, 1\]"),
     ]
     for attribute, change, exception, text in cases:
         spoiled = fb.BlackOil(pvt.oil, pvt.gas, pvt.regions)
