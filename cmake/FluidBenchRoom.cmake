@@ -5,9 +5,12 @@ add_library(FluidBenchBuildOptions INTERFACE)
 # Without it some processors round a product and a sum at once, and files differ in the last digit.
 target_compile_options(FluidBenchBuildOptions INTERFACE -ffp-contract=off)
 target_compile_options(FluidBenchBuildOptions INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast
+    -Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor -Wold-style-cast
     -Woverloaded-virtual -Wcast-qual -Wformat=2
     $<$<BOOL:${FLUIDBENCH_WARNINGS_AS_ERRORS}>:-Werror>)
+if(NOT CMAKE_UNITY_BUILD) # there the names of one file are seen by the next
+    target_compile_options(FluidBenchBuildOptions INTERFACE -Wshadow)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     # It takes assignments of short literals to strings for overlapping copies when it optimises.
     target_compile_options(FluidBenchBuildOptions INTERFACE -Wno-restrict)

@@ -30,4 +30,13 @@ constexpr std::string_view WithoutBlanks(std::string_view text) noexcept {
                : text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
+/// The text without the separators that spreadsheets and people leave behind it.
+constexpr std::string_view WithoutPadding(std::string_view text) noexcept {
+    return text.substr(0, text.find_last_not_of(", \t") + 1);
+}
+
+constexpr bool Holds(std::string_view text, std::string_view words) noexcept {
+    return text.find(words) != std::string_view::npos;
+}
+
 } // namespace Orv::Text

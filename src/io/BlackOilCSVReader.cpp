@@ -42,14 +42,15 @@ using Text::LookAtCell;
 using Text::ParseAsAtof;
 using Text::Quote;
 using Text::TakeAsAtof;
-namespace Kinds = Impl::IO::BlackOilKinds;
+using Text::WithoutPadding;
+namespace BlackOilKinds = Impl::IO::BlackOilKinds;
 
 namespace {
 
 enum class TableKind { Oil, Gas };
 
 // Where the cells of a row stand, behind the first one, which holds nothing.
-struct Layout {
+struct CsvLayout {
     const char* heading;
     std::size_t pressure;
     std::size_t ratio;
@@ -59,16 +60,17 @@ constexpr std::size_t volumeFactorCell = 2;
 constexpr std::size_t viscosityCell = 3;
 
 // clang-format off
-constexpr Layout oilLayout{"pvto", 1, 0, {"gas-oil ratio", "pressure", "volume factor", "viscosity"}};
-constexpr Layout gasLayout{"pvtg", 0, 1, {"pressure", "oil-gas ratio", "volume factor", "viscosity"}};
+constexpr CsvLayout oilLayout{"pvto", 1, 0, {"gas-oil ratio", "pressure", "volume factor", "viscosity"}};
+constexpr CsvLayout gasLayout{"pvtg", 0, 1, {"pressure", "oil-gas ratio", "volume factor", "viscosity"}};
 // clang-format on
 
-constexpr const Layout& LayoutOf(TableKind kind) noexcept {
+constexpr const CsvLayout& LayoutOf(TableKind kind) noexcept {
     return kind == TableKind::Oil ? oilLayout : gasLayout;
 }
 
-constexpr Impl::IO::CellKinds cellKinds{Kinds::notANumber, Kinds::textBehindNumber,
-                                        Kinds::notFinite, ParseAsAtof};
+constexpr Impl::IO::CellKinds blackOilCells{BlackOilKinds::notANumber,
+                                            BlackOilKinds::textBehindNumber,
+                                            BlackOilKinds::notFinite, ParseAsAtof};
 constexpr const char* countsAsZero = "it counts as 0";
 
 // By hand, since tolower asks the program's locale.
@@ -94,13 +96,6 @@ std::string_view FirstCell(std::string_view line) noexcept {
 }
 
 // A spreadsheet fills its lines up with commas.
-std::string_view WithoutPadding(std::string_view text) noexcept {
-    while (!text.empty() && (text.back() == ',' || text.back() == ' ' || text.back() == '\t')) {
-        text.remove_suffix(1);
-    }
-    return text;
-}
-
 // What people write ahead of a line's numbers.
 enum class KeyKind { None, Table, OtherTable, Value, Units, FileUnit };
 
@@ -157,11 +152,11 @@ bool IsClosing(std::string_view text) noexcept {
 }
 
 // The last cell takes the rest of the line, as far as it isn't padding.
-using Cells = std::array<std::string_view, 4>;
+using RowCells = std::array<std::string_view, 4>;
 
 // The cells of a line that is a row.
-Cells SplitRow(std::string_view line) noexcept {
-    Cells cells;
+RowCells SplitRow(std::string_view line) noexcept {
+    RowCells cells;
     std::size_t comma = line.find(',');
     for (std::size_t i = 0; i + 1 < cells.size(); ++i) {
         const std::size_t begin = comma + 1;
@@ -172,7 +167,7 @@ Cells SplitRow(std::string_view line) noexcept {
     return cells;
 }
 
-struct Row {
+struct CsvRow {
     double pressure; // Pa
     double ratio;
     double volumeFactor;
@@ -181,7 +176,7 @@ struct Row {
 
 // The row in one pass: a number ends at the comma behind its cell, if not before. Nothing where a
 // comma is missing.
-std::optional<Row> ReadRow(std::string_view line, const Layout& layout) noexcept {
+std::optional<CsvRow> ReadRow(std::string_view line, const CsvLayout& layout) noexcept {
     std::array<double, 4> numbers{};
     std::string_view rest = line;
     for (double& number : numbers) {
@@ -192,8 +187,8 @@ std::optional<Row> ReadRow(std::string_view line, const Layout& layout) noexcept
         rest.remove_prefix(comma + 1);
         number = TakeAsAtof(rest);
     }
-    return Row{Units::Pressure_bar_To_Pa(numbers[layout.pressure]), numbers[layout.ratio],
-               numbers[volumeFactorCell], Units::Viscosity_cp_To_Pas(numbers[viscosityCell])};
+    return CsvRow{Units::Pressure_bar_To_Pa(numbers[layout.pressure]), numbers[layout.ratio],
+                  numbers[volumeFactorCell], Units::Viscosity_cp_To_Pas(numbers[viscosityCell])};
 }
 
 // The densities of the file form; each has a key of its own.
@@ -205,16 +200,16 @@ struct DensityLine {
 };
 
 constexpr DensityLine densities[] = {
-    {"ODEN", "oil", Kinds::noDensities, &BlackOilTable::SetOilDensity},
-    {"WDEN", "water", Kinds::noWaterDensity, &BlackOilTable::SetWaterDensity},
-    {"GDEN", "gas", Kinds::noDensities, &BlackOilTable::SetGasDensity},
+    {"ODEN", "oil", BlackOilKinds::noDensities, &BlackOilTable::SetOilDensity},
+    {"WDEN", "water", BlackOilKinds::noWaterDensity, &BlackOilTable::SetWaterDensity},
+    {"GDEN", "gas", BlackOilKinds::noDensities, &BlackOilTable::SetGasDensity},
 };
 
 // Looks at what the reader takes or passes over, and tells of what may not be meant so. It is asked
 // only when somebody listens.
-class Watch {
+class CsvWatch {
 public:
-    Watch(Diagnostics& diagnostics, const LineReader& lines)
+    CsvWatch(Diagnostics& diagnostics, const LineReader& lines)
         : diagnostics_(diagnostics), lines_(lines) {}
 
     void AtTopLevel(std::string_view line);
@@ -222,7 +217,7 @@ public:
     void EndTable();
     void BeginRecord() { previousPressure_.reset(); }
     void SkippedRow(std::string_view line);
-    void TakenRow(std::string_view line, const Row& row);
+    void TakenRow(std::string_view line, const CsvRow& row);
     void Density(const DensityLine& density, std::string_view value);
     void EndFile();
 
@@ -236,7 +231,7 @@ private:
 
     Diagnostics& diagnostics_;
     const LineReader& lines_;
-    const Layout* layout_ = &oilLayout;
+    const CsvLayout* layout_ = &oilLayout;
     std::optional<double> previousPressure_; // in the record
     std::uint64_t heading_ = 0;              // its line
     std::uint64_t endOfTable_ = 0;           // the line that ended the oil table
@@ -245,7 +240,7 @@ private:
     std::array<bool, std::size(densities)> hasDensity_{};
 };
 
-void Watch::AtTopLevel(std::string_view line) {
+void CsvWatch::AtTopLevel(std::string_view line) {
     const std::string_view text = WithoutPadding(line);
     if (text.empty() || IsClosing(text)) {
         return;
@@ -258,8 +253,9 @@ void Watch::AtTopLevel(std::string_view line) {
         Units(leading.behind);
         break;
     case KeyKind::OtherTable:
-        Tell(Kinds::headingForm, "Expected the heading 'PVTO,' or 'PVTG,', found " + Quote(text) +
-                                     "; the line doesn't count, nor do the rows below it.");
+        Tell(BlackOilKinds::headingForm, "Expected the heading 'PVTO,' or 'PVTG,', found " +
+                                             Quote(text) +
+                                             "; the line doesn't count, nor do the rows below it.");
         break;
     case KeyKind::Table:
     case KeyKind::Value:
@@ -269,7 +265,7 @@ void Watch::AtTopLevel(std::string_view line) {
         break;
     case KeyKind::None:
         if (BeginsWithNumber(text)) {
-            Tell(Kinds::rowOutsideTable,
+            Tell(BlackOilKinds::rowOutsideTable,
                  "Expected rows below a heading 'PVTO,' or 'PVTG,', found " + Quote(text) +
                      " outside of any table; it doesn't count." +
                      (endOfTable_ == 0
@@ -277,31 +273,31 @@ void Watch::AtTopLevel(std::string_view line) {
                           : " The oil table ended at line " + std::to_string(endOfTable_) +
                                 ", which holds 'Units'."));
         } else {
-            Tell(Kinds::otherText,
+            Tell(BlackOilKinds::otherText,
                  "Expected a key and its value or a heading, found " + Quote(text) + ".");
         }
     }
 }
 
-void Watch::Units(std::string_view behind) {
+void CsvWatch::Units(std::string_view behind) {
     constexpr std::string_view dressing = " \t\"',:;=";
     behind.remove_prefix(std::min(behind.find_first_not_of(dressing), behind.size()));
     const std::string_view system = Bare(behind);
     if (!system.empty() && !IsKey(system, "metric")) {
-        Tell(Kinds::otherUnits, "Expected 'METRIC', found " + Quote(system) +
-                                    "; the numbers are taken as metric all the same.");
+        Tell(BlackOilKinds::otherUnits, "Expected 'METRIC', found " + Quote(system) +
+                                            "; the numbers are taken as metric all the same.");
     }
 }
 
 // A key that the reader knows, but not so.
-void Watch::WithoutEffect(std::string_view line, const LeadingWord& leading) {
+void CsvWatch::WithoutEffect(std::string_view line, const LeadingWord& leading) {
     const std::string_view behind = Bare(leading.behind);
     if (!behind.empty() && (behind.front() == ';' || behind.front() == '|' ||
                             (leading.behind.front() == '\t' && behind.front() != ','))) {
-        Tell(Kinds::otherSeparator,
+        Tell(BlackOilKinds::otherSeparator,
              "Expected cells parted by commas, found " + Quote(line) + "; the line doesn't count.");
     } else {
-        Tell(Kinds::headingForm,
+        Tell(BlackOilKinds::headingForm,
              "Expected the key " + Quote(leading.word) +
                  " at the head of the line, without blanks or quotes around it and with a comma "
                  "behind it, found " +
@@ -309,11 +305,12 @@ void Watch::WithoutEffect(std::string_view line, const LeadingWord& leading) {
     }
 }
 
-void Watch::BeginTable(TableKind kind) {
+void CsvWatch::BeginTable(TableKind kind) {
     bool& hadTable = hadTable_[static_cast<std::size_t>(kind)];
     if (hadTable) {
-        Tell(Kinds::secondTable, std::string("Expected one table of its kind, found a second one, "
-                                             "which replaces the first."));
+        Tell(BlackOilKinds::secondTable,
+             std::string("Expected one table of its kind, found a second one, "
+                         "which replaces the first."));
     }
     hadTable = true;
     layout_ = &LayoutOf(kind);
@@ -322,19 +319,19 @@ void Watch::BeginTable(TableKind kind) {
     BeginRecord();
 }
 
-void Watch::EndTable() {
+void CsvWatch::EndTable() {
     endOfTable_ = lines_.Number();
     if (!hasRows_) {
-        diagnostics_.Tell(Kinds::noRows, heading_,
+        diagnostics_.Tell(BlackOilKinds::noRows, heading_,
                           "Expected rows of five cells below the heading, found none.");
     }
 }
 
 // Tells of a heading or a units line inside a table.
-bool Watch::IsHeading(std::string_view line) {
+bool CsvWatch::IsHeading(std::string_view line) {
     const LeadingWord leading = LeadingWordOf(line);
     if (leading.kind == KeyKind::Table || leading.kind == KeyKind::OtherTable) {
-        Tell(Kinds::headingInTable,
+        Tell(BlackOilKinds::headingInTable,
              "Expected a row of the table that begins on line " + std::to_string(heading_) +
                  ", found the heading " + Quote(leading.word) +
                  ": what is below counts as more of that table. A table ends at a line with "
@@ -348,80 +345,83 @@ bool Watch::IsHeading(std::string_view line) {
     return false;
 }
 
-void Watch::SkippedRow(std::string_view line) {
+void CsvWatch::SkippedRow(std::string_view line) {
     const std::string_view text = WithoutPadding(line);
     const LeadingWord leading = LeadingWordOf(text);
     if ((IsHeading(text) && leading.kind == KeyKind::Units) || IsClosing(text)) {
         return;
     }
     if (Bare(text).empty()) {
-        Tell(Kinds::paddedRow, "Expected a row or an empty line, found blanks or separators alone; "
-                               "the line ends no record.");
+        Tell(BlackOilKinds::paddedRow,
+             "Expected a row or an empty line, found blanks or separators alone; "
+             "the line ends no record.");
         return;
     }
     if (line.find(',') == std::string_view::npos &&
         line.find_first_of(";\t|") != std::string_view::npos) {
-        Tell(Kinds::otherSeparator,
+        Tell(BlackOilKinds::otherSeparator,
              "Expected cells parted by commas, found " + Quote(line) + "; the row was skipped.");
     } else {
-        Tell(Kinds::rowSkipped, "Expected five cells, found " +
-                                    std::to_string(1 + std::ranges::count(line, ',')) + " in " +
-                                    Quote(line) + "; the row was skipped.");
+        Tell(BlackOilKinds::rowSkipped, "Expected five cells, found " +
+                                            std::to_string(1 + std::ranges::count(line, ',')) +
+                                            " in " + Quote(line) + "; the row was skipped.");
     }
 }
 
-void Watch::TakenRow(std::string_view line, const Row& row) {
+void CsvWatch::TakenRow(std::string_view line, const CsvRow& row) {
     const std::string_view first = FirstCell(line);
     const bool isPlain = Bare(first).empty(); // as nearly every row
     const bool isHeading = !isPlain && IsHeading(line);
     hasRows_ = true;
     if (line.substr(first.size()).find_first_not_of(", \t\"") == std::string_view::npos) {
-        Tell(Kinds::paddedRow, "Expected a row of numbers, found separators alone in " +
-                                   Quote(WithoutPadding(line)) +
-                                   "; it counts as a row of zeros. An empty line ends a record, so "
-                                   "delete what is on this one.");
+        Tell(BlackOilKinds::paddedRow,
+             "Expected a row of numbers, found separators alone in " + Quote(WithoutPadding(line)) +
+                 "; it counts as a row of zeros. An empty line ends a record, so "
+                 "delete what is on this one.");
         return;
     }
     if (!isPlain && !isHeading) {
-        Tell(Kinds::firstCell, "Expected an empty first cell, found " + Quote(first) +
-                                   ", which isn't read; the numbers are those of the four cells "
-                                   "behind it.");
+        Tell(BlackOilKinds::firstCell,
+             "Expected an empty first cell, found " + Quote(first) +
+                 ", which isn't read; the numbers are those of the four cells "
+                 "behind it.");
     }
-    const Cells cells = SplitRow(line);
+    const RowCells cells = SplitRow(line);
     for (std::size_t i = 0; i < cells.size(); ++i) {
-        TellCell(diagnostics_, cellKinds, lines_.Number(), layout_->columns[i], cells[i],
+        TellCell(diagnostics_, blackOilCells, lines_.Number(), layout_->columns[i], cells[i],
                  countsAsZero);
     }
     const double smallest = std::min({row.pressure, row.ratio, row.volumeFactor, row.viscosity});
     if (smallest < 0.0) {
-        Tell(Kinds::negativeValue,
+        Tell(BlackOilKinds::negativeValue,
              "Expected values of zero or more, found a negative one in " + Quote(line) + ".");
     }
     // All rows of a gas record may have the same pressure.
     const bool isOil = layout_ == &oilLayout;
     if (previousPressure_ &&
         (row.pressure < *previousPressure_ || (isOil && row.pressure == *previousPressure_))) {
-        Tell(Kinds::pressureOrder, std::string("Expected a pressure ") +
-                                       (isOil ? "above" : "no less than") +
-                                       " that of the row ahead in the same record, found " +
-                                       Quote(cells[layout_->pressure]) + ".");
+        Tell(BlackOilKinds::pressureOrder, std::string("Expected a pressure ") +
+                                               (isOil ? "above" : "no less than") +
+                                               " that of the row ahead in the same record, found " +
+                                               Quote(cells[layout_->pressure]) + ".");
     }
     previousPressure_ = row.pressure;
 }
 
-void Watch::Density(const DensityLine& density, std::string_view value) {
+void CsvWatch::Density(const DensityLine& density, std::string_view value) {
     hasDensity_[static_cast<std::size_t>(&density - densities)] = true;
     const std::string_view cell = WithoutPadding(value);
-    TellCell(diagnostics_, cellKinds, lines_.Number(), std::string(density.name) + " density", cell,
-             countsAsZero);
+    TellCell(diagnostics_, blackOilCells, lines_.Number(), std::string(density.name) + " density",
+             cell, countsAsZero);
     if (ParseAsAtof(cell) < 0.0) {
-        Tell(Kinds::negativeValue, "Expected a density above zero, found " + Quote(cell) + ".");
+        Tell(BlackOilKinds::negativeValue,
+             "Expected a density above zero, found " + Quote(cell) + ".");
     }
 }
 
-void Watch::EndFile() {
+void CsvWatch::EndFile() {
     if (!hadTable_[0] && !hadTable_[1]) {
-        diagnostics_.Tell(Kinds::noTable, 0,
+        diagnostics_.Tell(BlackOilKinds::noTable, 0,
                           "Expected a line that begins with 'PVTO,' or 'PVTG,', found none.");
         return;
     }
@@ -453,7 +453,7 @@ private:
 
     LineReader lines_;
     Diagnostics& diagnostics_;
-    Watch watch_;
+    CsvWatch watch_;
     bool readsSaturationPoint_;
 };
 
@@ -510,13 +510,13 @@ void CsvReader::ReadSaturationPoint(std::string_view key, std::string_view value
     const double number = ParseAsAtof(value); // the pressure is in Pa, unlike those of the rows
     table.SetSaturationPoint(isRatio ? number : table.GetSaturationPointRs(),
                              isRatio ? table.GetSaturationPointPressure() : number);
-    TellCell(diagnostics_, cellKinds, lines_.Number(),
+    TellCell(diagnostics_, blackOilCells, lines_.Number(),
              isRatio ? "ratio of the saturation point" : "pressure of the saturation point",
              WithoutPadding(value), countsAsZero);
 }
 
 BlackOilDataRecords CsvReader::ReadTable(TableKind kind) {
-    const Layout& layout = LayoutOf(kind);
+    const CsvLayout& layout = LayoutOf(kind);
     const bool isWatched = diagnostics_.AreWanted();
     watch_.BeginTable(kind);
     BlackOilDataRecords records;

@@ -14,6 +14,7 @@
 #include "io/BlackOilExportFileWriter.h"
 
 #include "BlackOilFormatters.h"
+#include "Decimals.h"
 #include "DeckText.h"
 #include "NumberText.h"
 #include "OutputFile.h"
@@ -41,8 +42,6 @@ using Text::StreamFormat;
 
 namespace {
 
-constexpr int decimalsOfHighPrecision = 15;
-constexpr int decimalsOfTables = 8;
 constexpr int decimalsOfCompositions = 4;
 
 constexpr double waterDensity = 1000.0; // kg/m3, whatever the table has

@@ -48,7 +48,7 @@ constexpr TableHeading dryGasHeading{
     "PVDG"};
 // clang-format on
 
-constexpr std::size_t cellWidth = 8;
+constexpr std::size_t blackOilCellWidth = 8;
 constexpr std::size_t densityWidth = 12;
 // A cell without a number leaves its width to the tab behind it.
 constexpr std::string_view emptyCell = "       \t";
@@ -157,16 +157,17 @@ void PVOFormatter::OilTableEntry(std::ostream& out, double pressure, double prop
     const RowUnits& convert = IsField() ? fieldOilRow : metricRow;
     row += '\t';
     if (HasLiveOil(exportType) && firstOfRecord) {
-        AppendNumber(row, convert.property(property), format, cellWidth);
+        AppendNumber(row, convert.property(property), format, blackOilCellWidth);
         row += '\t';
     } else {
         row += emptyCell;
     }
-    AppendNumber(row, convert.pressure(pressure), format, cellWidth);
+    AppendNumber(row, convert.pressure(pressure), format, blackOilCellWidth);
     row += '\t';
-    AppendNumber(row, convert.formationVolumeFactor(formationVolumeFactor), format, cellWidth);
+    AppendNumber(row, convert.formationVolumeFactor(formationVolumeFactor), format,
+                 blackOilCellWidth);
     row += '\t';
-    AppendNumber(row, Units::Viscosity_Pas_To_cp(viscosity), format, cellWidth);
+    AppendNumber(row, Units::Viscosity_Pas_To_cp(viscosity), format, blackOilCellWidth);
     row.WriteTo(out);
 }
 
@@ -177,7 +178,7 @@ void PVOFormatter::GasTableEntry(std::ostream& out, double pressure, double prop
     const RowUnits& convert = IsField() ? fieldGasRow : metricRow;
     row += '\t';
     if (firstOfRecord) {
-        AppendNumber(row, convert.pressure(pressure), format, cellWidth);
+        AppendNumber(row, convert.pressure(pressure), format, blackOilCellWidth);
         row += '\t';
     } else {
         row += emptyCell;
@@ -186,9 +187,10 @@ void PVOFormatter::GasTableEntry(std::ostream& out, double pressure, double prop
         AppendNumber(row, convert.property(property), format);
     }
     row += '\t';
-    AppendNumber(row, convert.formationVolumeFactor(formationVolumeFactor), format, cellWidth);
+    AppendNumber(row, convert.formationVolumeFactor(formationVolumeFactor), format,
+                 blackOilCellWidth);
     row += '\t';
-    AppendNumber(row, Units::Viscosity_Pas_To_cp(viscosity), format, cellWidth);
+    AppendNumber(row, Units::Viscosity_Pas_To_cp(viscosity), format, blackOilCellWidth);
     row.WriteTo(out);
 }
 

@@ -36,17 +36,17 @@ using Impl::IO::WantedKeyword;
 using Model::BlackOilDataRecords;
 using Model::BlackOilTable;
 using Entry = BlackOilDataRecords::Entry;
-namespace Kinds = Impl::IO::KeywordKinds;
+namespace KeywordKinds = Impl::IO::KeywordKinds;
 
 namespace {
 
-constexpr WantedKeyword keywords[] = {{"DENSITY"}, {"RSCONSTT"}, {"PVTO"},
-                                      {"PVDO"},    {"PVTG"},     {"PVDG"}};
+constexpr WantedKeyword blackOilKeywords[] = {{"DENSITY"}, {"RSCONSTT"}, {"PVTO"},
+                                              {"PVDO"},    {"PVTG"},     {"PVDG"}};
 
 enum class RowOrder { Rising, Falling };
 
 // How a table stands in the file, and where it goes.
-struct Layout {
+struct KeywordLayout {
     std::string_view keyword;
     bool hasRecords; // a record has a number of its own ahead of its first row
     double Entry::*ofRecord;
@@ -60,7 +60,7 @@ struct Layout {
 };
 
 // clang-format off
-constexpr Layout layouts[] = {
+constexpr KeywordLayout layouts[] = {
     {"PVTO", true,  &Entry::property, &Entry::pressure, RowOrder::Rising,  false,
      "a gas-oil ratio, a pressure, a volume factor and a viscosity", "a pressure, a volume factor and a viscosity", fieldOilRow, &BlackOilTable::SetLiveOilData},
     {"PVDO", false, nullptr,          &Entry::pressure, RowOrder::Rising,  false,
@@ -72,7 +72,7 @@ constexpr Layout layouts[] = {
 };
 // clang-format on
 
-using Row = std::array<double, 3>;
+using KeywordRow = std::array<double, 3>;
 
 // The number, for a message.
 std::string Shown(double number) {
@@ -83,7 +83,7 @@ std::string Shown(double number) {
 
 // The table of one region, in the units of the file. Its entries lie in blocks, which are given
 // back one by one when they are converted, so that the rows never take twice their memory.
-struct Table {
+struct KeywordTable {
     std::deque<std::vector<Entry>> blocks;
     std::vector<std::size_t> recordEnds; // none where every row is a record
     std::size_t size = 0;
@@ -102,16 +102,17 @@ struct Table {
 struct Content {
     std::vector<std::array<double, 3>> densities; // oil, water, gas
     std::vector<std::array<double, 2>> saturationPoints;
-    std::array<std::vector<Table>, std::size(layouts)> tables;
+    std::array<std::vector<KeywordTable>, std::size(layouts)> tables;
 };
 
 // What the numbers of a file mean.
-class Conversion {
+class ToModelUnits {
 public:
-    Conversion(bool isField, bool hasLongNumbers) : isField_(isField), isLong_(hasLongNumbers) {}
+    ToModelUnits(bool isField, bool hasLongNumbers) : isField_(isField), isLong_(hasLongNumbers) {}
 
     /// Dead oil has the gas-oil ratio of its saturation point, and dry gas has no ratio.
-    BlackOilDataRecords Records(Table table, const Layout& layout, double gasOilRatio) const {
+    BlackOilDataRecords Records(KeywordTable table, const KeywordLayout& layout,
+                                double gasOilRatio) const {
         const RowUnits& units = isField_ ? layout.fieldUnits : metricRow;
         const FileNumber pressure(units.pressure, isLong_);
         const FileNumber property(units.property, isLong_);
@@ -153,9 +154,9 @@ private:
     bool isLong_;
 };
 
-class Reader {
+class BlackOilFile {
 public:
-    explicit Reader(KeywordWalker& walker) : walker_(walker) {}
+    explicit BlackOilFile(KeywordWalker& walker) : walker_(walker) {}
 
     std::vector<BlackOilTable> Read(std::optional<Units::UNIT_TYPE> units);
 
@@ -163,21 +164,22 @@ private:
     void ReadKeyword();
     template <std::size_t Size>
     void ReadRecords(std::vector<std::array<double, Size>>& records, std::string_view meaning);
-    Table ReadTable(const Layout& layout);
-    void ReadLiveRecords(const Layout& layout, Table& table);
-    void ReadDeadRows(const Layout& layout, Table& table);
-    void AddRow(const Layout& layout, Table& table, double ofRecord, const double* row);
+    KeywordTable ReadTable(const KeywordLayout& layout);
+    void ReadLiveRecords(const KeywordLayout& layout, KeywordTable& table);
+    void ReadDeadRows(const KeywordLayout& layout, KeywordTable& table);
+    void AddRow(const KeywordLayout& layout, KeywordTable& table, double ofRecord,
+                const double* row);
     void RequireOrder(RowOrder order, double previous, double next, std::string_view what);
 
     void DropEmptyTables();
-    BlackOilTable MakeRegion(std::size_t index, const Conversion& conversion);
+    BlackOilTable MakeRegion(std::size_t index, const ToModelUnits& conversion);
     void TellOfRegions(std::size_t regions, bool isField);
 
     KeywordWalker& walker_;
     Content content_;
 };
 
-void Reader::ReadKeyword() {
+void BlackOilFile::ReadKeyword() {
     const std::string keyword = walker_.Keyword();
     if (keyword == "DENSITY") {
         ReadRecords(content_.densities, "the densities of oil, water and gas");
@@ -187,7 +189,7 @@ void Reader::ReadKeyword() {
         ReadRecords(content_.saturationPoints, "a gas-oil ratio and a pressure");
         return;
     }
-    const auto* const layout = std::ranges::find(layouts, keyword, &Layout::keyword);
+    const auto* const layout = std::ranges::find(layouts, keyword, &KeywordLayout::keyword);
     auto& tables = content_.tables[static_cast<std::size_t>(layout - std::begin(layouts))];
     do {
         tables.push_back(ReadTable(*layout));
@@ -195,19 +197,20 @@ void Reader::ReadKeyword() {
 }
 
 template <std::size_t Size>
-void Reader::ReadRecords(std::vector<std::array<double, Size>>& records, std::string_view meaning) {
+void BlackOilFile::ReadRecords(std::vector<std::array<double, Size>>& records,
+                               std::string_view meaning) {
     do {
         std::array<double, Size> record{};
         if (!walker_.ReadRow(record, meaning, KeywordWalker::Defaults::AreZero)) {
-            walker_.Fail(Kinds::rowLength, walker_.Line(), std::string(meaning), "'/'");
+            walker_.Fail(KeywordKinds::rowLength, walker_.Line(), std::string(meaning), "'/'");
         }
         walker_.EndRecord(meaning);
         records.push_back(record);
     } while (walker_.HasRecord());
 }
 
-Table Reader::ReadTable(const Layout& layout) {
-    Table table;
+KeywordTable BlackOilFile::ReadTable(const KeywordLayout& layout) {
+    KeywordTable table;
     if (layout.hasRecords) {
         ReadLiveRecords(layout, table);
     } else {
@@ -217,7 +220,7 @@ Table Reader::ReadTable(const Layout& layout) {
     return table;
 }
 
-void Reader::ReadLiveRecords(const Layout& layout, Table& table) {
+void BlackOilFile::ReadLiveRecords(const KeywordLayout& layout, KeywordTable& table) {
     std::array<double, 4> first{};
     double previousRecord = 0.0;
     double previousPressure = 0.0;
@@ -233,7 +236,7 @@ void Reader::ReadLiveRecords(const Layout& layout, Table& table) {
         previousPressure = first[1];
         AddRow(layout, table, first[0], first.data() + 1);
         double previous = first[1];
-        for (Row row{}; walker_.ReadRow(row, layout.row); previous = row[0]) {
+        for (KeywordRow row{}; walker_.ReadRow(row, layout.row); previous = row[0]) {
             RequireOrder(layout.order, previous, row[0], "that of the row ahead");
             AddRow(layout, table, first[0], row.data());
         }
@@ -243,12 +246,12 @@ void Reader::ReadLiveRecords(const Layout& layout, Table& table) {
 
 // The writer leaves out the pressure of a dry gas row that isn't the first of its record. Then two
 // numbers stand on its line, and the next ones on another.
-void Reader::ReadDeadRows(const Layout& layout, Table& table) {
+void BlackOilFile::ReadDeadRows(const KeywordLayout& layout, KeywordTable& table) {
     const auto failPressure = [&] {
-        walker_.Fail(Kinds::noPressure, walker_.RowLine(), std::string(layout.row),
+        walker_.Fail(KeywordKinds::noPressure, walker_.RowLine(), std::string(layout.row),
                      "two numbers on the line: the pressure is missing");
     };
-    Row row{};
+    KeywordRow row{};
     while (const std::size_t count = walker_.ReadRowPart(row, layout.row)) {
         const bool isWhole = count == row.size();
         const bool isOneLine = walker_.RowLine() == walker_.Line();
@@ -257,7 +260,7 @@ void Reader::ReadDeadRows(const Layout& layout, Table& table) {
             failPressure();
         }
         if (!isWhole) {
-            walker_.Fail(Kinds::rowLength, walker_.Line(), std::string(layout.row),
+            walker_.Fail(KeywordKinds::rowLength, walker_.Line(), std::string(layout.row),
                          "'/' behind " + std::to_string(count) + " of them");
         }
         if (!isInOrder) {
@@ -270,7 +273,8 @@ void Reader::ReadDeadRows(const Layout& layout, Table& table) {
     }
 }
 
-void Reader::AddRow(const Layout& layout, Table& table, double ofRecord, const double* row) {
+void BlackOilFile::AddRow(const KeywordLayout& layout, KeywordTable& table, double ofRecord,
+                          const double* row) {
     Entry& entry = table.Append();
     if (layout.hasRecords) {
         entry.*layout.ofRecord = ofRecord;
@@ -281,23 +285,24 @@ void Reader::AddRow(const Layout& layout, Table& table, double ofRecord, const d
 }
 
 // Ratios of a wet gas that hardly differ may be written alike.
-void Reader::RequireOrder(RowOrder order, double previous, double next, std::string_view what) {
+void BlackOilFile::RequireOrder(RowOrder order, double previous, double next,
+                                std::string_view what) {
     const bool isRising = order == RowOrder::Rising;
     if (isRising ? next > previous : next <= previous) {
         return;
     }
-    walker_.Fail(Kinds::rowOrder, walker_.RowLine(),
+    walker_.Fail(KeywordKinds::rowOrder, walker_.RowLine(),
                  std::string("a number ") + (isRising ? "above " : "no larger than ") +
                      std::string(what) + ", " + Shown(previous),
                  Shown(next));
 }
 
 // An empty table at the end is a slash too many rather than a region.
-void Reader::DropEmptyTables() {
-    for (std::vector<Table>& tables : content_.tables) {
-        for (const Table& table : tables) {
+void BlackOilFile::DropEmptyTables() {
+    for (std::vector<KeywordTable>& tables : content_.tables) {
+        for (const KeywordTable& table : tables) {
             if (table.size == 0) {
-                walker_.Tell(Kinds::noRows, table.line,
+                walker_.Tell(KeywordKinds::noRows, table.line,
                              "Expected rows of numbers ahead of the table's end, found none.");
             }
         }
@@ -307,10 +312,10 @@ void Reader::DropEmptyTables() {
     }
 }
 
-void Reader::TellOfRegions(std::size_t regions, bool isField) {
+void BlackOilFile::TellOfRegions(std::size_t regions, bool isField) {
     const auto tell = [&](std::string_view keyword, std::size_t count) {
         if (count > 0 && count < regions) {
-            walker_.Tell(Kinds::fewerRegions, 0,
+            walker_.Tell(KeywordKinds::fewerRegions, 0,
                          "Expected " + std::string(keyword) + " for each of " +
                              std::to_string(regions) + " regions, found it for " +
                              std::to_string(count) + "; the others go without.");
@@ -322,7 +327,7 @@ void Reader::TellOfRegions(std::size_t regions, bool isField) {
         tell(layouts[i].keyword, content_.tables[i].size());
     }
     if (content_.densities.empty()) {
-        walker_.Tell(Kinds::noDensities, 0,
+        walker_.Tell(KeywordKinds::noDensities, 0,
                      "Expected DENSITY, found no such keyword; the densities count as 0.");
     }
     constexpr double writtenWaterDensity = 1000.0;
@@ -331,7 +336,7 @@ void Reader::TellOfRegions(std::size_t regions, bool isField) {
         const double water =
             FileNumber(DensityUnit(isField), false).ToModel(content_.densities[i][1]);
         if (std::abs(water - writtenWaterDensity) > digitsOfFile) {
-            walker_.Tell(Kinds::waterDensity, 0,
+            walker_.Tell(KeywordKinds::waterDensity, 0,
                          "Expected a water density of 1000 kg/m3 in region " +
                              std::to_string(i + 1) + ", found " + Shown(water) +
                              ", which the table holds; a file that is written of it has 1000.");
@@ -339,7 +344,7 @@ void Reader::TellOfRegions(std::size_t regions, bool isField) {
     }
 }
 
-BlackOilTable Reader::MakeRegion(std::size_t index, const Conversion& conversion) {
+BlackOilTable BlackOilFile::MakeRegion(std::size_t index, const ToModelUnits& conversion) {
     BlackOilTable region;
     if (index < content_.densities.size()) {
         conversion.SetDensities(region, content_.densities[index]);
@@ -358,18 +363,18 @@ BlackOilTable Reader::MakeRegion(std::size_t index, const Conversion& conversion
     return region;
 }
 
-std::vector<BlackOilTable> Reader::Read(std::optional<Units::UNIT_TYPE> units) {
+std::vector<BlackOilTable> BlackOilFile::Read(std::optional<Units::UNIT_TYPE> units) {
     while (walker_.NextKeyword()) {
         ReadKeyword();
     }
     const bool isField = walker_.IsField(units);
     DropEmptyTables();
     std::size_t count = std::max(content_.densities.size(), content_.saturationPoints.size());
-    for (const std::vector<Table>& tables : content_.tables) {
+    for (const std::vector<KeywordTable>& tables : content_.tables) {
         count = std::max(count, tables.size());
     }
     TellOfRegions(count, isField);
-    const Conversion conversion(isField, walker_.HasLongNumbers());
+    const ToModelUnits conversion(isField, walker_.HasLongNumbers());
     std::vector<BlackOilTable> regions;
     for (std::size_t i = 0; i < count; ++i) {
         regions.push_back(MakeRegion(i, conversion));
@@ -389,15 +394,15 @@ void BlackOilKeywordReader::SetDiagnosticSink(DiagnosticSink sink) {
 ErrorReport BlackOilKeywordReader::Read(const std::string& fileName,
                                         std::vector<BlackOilTable>& regions,
                                         std::optional<Units::UNIT_TYPE> units) const {
-    return ReadKeywords({fileName}, diagnosticSink, keywords, regions,
-                        [&](KeywordWalker& walker) { return Reader(walker).Read(units); });
+    return ReadKeywords({fileName}, diagnosticSink, blackOilKeywords, regions,
+                        [&](KeywordWalker& walker) { return BlackOilFile(walker).Read(units); });
 }
 
 ErrorReport BlackOilKeywordReader::Read(std::istream& in, std::vector<BlackOilTable>& regions,
                                         std::optional<Units::UNIT_TYPE> units,
                                         const std::string& name) const {
-    return ReadKeywords({name, &in}, diagnosticSink, keywords, regions,
-                        [&](KeywordWalker& walker) { return Reader(walker).Read(units); });
+    return ReadKeywords({name, &in}, diagnosticSink, blackOilKeywords, regions,
+                        [&](KeywordWalker& walker) { return BlackOilFile(walker).Read(units); });
 }
 
 } // namespace Orv::FluidBench::IO

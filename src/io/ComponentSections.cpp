@@ -1,6 +1,7 @@
 #include "ComponentSections.h"
 
 #include "DeckText.h"
+#include "FileNumber.h"
 #include "FluidBench/Common/Units.h"
 #include "FluidBench/Utilities/ModelParameters.h"
 #include "FluidBench/Utilities/Strings.h"
@@ -28,11 +29,7 @@ using Utilities::Strings;
 
 namespace {
 
-using Conversion = double (*)(double);
-
-double AsItIs(double value) {
-    return value;
-}
+using Conversion = FileNumber::Conversion;
 
 // How a quantity stands in each unit system: the comment line that names the unit, if it has one,
 // and the conversion from the model's unit.

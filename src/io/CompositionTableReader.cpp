@@ -21,18 +21,19 @@ using Common::ErrorReport;
 using Common::Units;
 using Impl::IO::KeywordWalker;
 using Impl::IO::WantedKeyword;
-namespace Kinds = Impl::IO::KeywordKinds;
+namespace KeywordKinds = Impl::IO::KeywordKinds;
 
 namespace {
 
 constexpr std::string_view vapour = "YMFVP";
 constexpr std::string_view liquid = "XMFVP";
-constexpr WantedKeyword keywords[] = {
+constexpr WantedKeyword compositionKeywords[] = {
     {vapour}, {liquid}, FractionReader::countKeyword, FractionReader::namesKeyword};
 
-class Reader {
+class CompositionFile {
 public:
-    explicit Reader(KeywordWalker& walker) : walker_(walker), fractions_(walker, "a pressure") {}
+    explicit CompositionFile(KeywordWalker& walker)
+        : walker_(walker), fractions_(walker, "a pressure") {}
 
     std::vector<CompositionTable> Read(std::optional<Units::UNIT_TYPE> units);
 
@@ -47,14 +48,14 @@ private:
     std::vector<FractionRows> liquids_;
 };
 
-void Reader::ReadTables() {
+void CompositionFile::ReadTables() {
     const bool isVapour = walker_.Keyword() == vapour;
     std::vector<FractionRows>& tables = isVapour ? vapours_ : liquids_;
     bool isFirst = true;
     do {
         FractionRows rows = fractions_.ReadTable();
         if (!std::exchange(isFirst, false) && rows.first.empty()) {
-            walker_.Tell(Kinds::noRows, walker_.Line(),
+            walker_.Tell(KeywordKinds::noRows, walker_.Line(),
                          "Expected another table or a keyword, found '/' alone; it doesn't count.");
             continue;
         }
@@ -63,8 +64,9 @@ void Reader::ReadTables() {
     } while (walker_.HasRecord());
 }
 
-void Reader::RequireSamePressures(const FractionRows& rows, const std::vector<FractionRows>& others,
-                                  std::size_t index) const {
+void CompositionFile::RequireSamePressures(const FractionRows& rows,
+                                           const std::vector<FractionRows>& others,
+                                           std::size_t index) const {
     if (index >= others.size()) {
         return;
     }
@@ -72,14 +74,15 @@ void Reader::RequireSamePressures(const FractionRows& rows, const std::vector<Fr
     const auto [here, there] = std::ranges::mismatch(rows.first, other);
     if (here != rows.first.end() || there != other.end()) {
         const auto row = static_cast<std::size_t>(here - rows.first.begin());
-        walker_.Fail(
-            Kinds::pressuresDiffer, row < rows.lines.size() ? rows.lines[row] : walker_.Line(),
-            "the pressures of the other phase, " + std::to_string(other.size()) + " of them",
-            "other ones from row " + std::to_string(row + 1) + " on");
+        walker_.Fail(KeywordKinds::pressuresDiffer,
+                     row < rows.lines.size() ? rows.lines[row] : walker_.Line(),
+                     "the pressures of the other phase, " + std::to_string(other.size()) +
+                         " of them",
+                     "other ones from row " + std::to_string(row + 1) + " on");
     }
 }
 
-std::vector<CompositionTable> Reader::Read(std::optional<Units::UNIT_TYPE> units) {
+std::vector<CompositionTable> CompositionFile::Read(std::optional<Units::UNIT_TYPE> units) {
     while (walker_.NextKeyword()) {
         if (!fractions_.ReadKeyword()) {
             ReadTables();
@@ -91,7 +94,7 @@ std::vector<CompositionTable> Reader::Read(std::optional<Units::UNIT_TYPE> units
     std::vector<CompositionTable> tables(std::max(vapours_.size(), liquids_.size()));
     for (std::size_t i = 0; i < tables.size(); ++i) {
         if (i >= vapours_.size() || i >= liquids_.size()) {
-            walker_.Tell(Kinds::missingKeyword, 0,
+            walker_.Tell(KeywordKinds::missingKeyword, 0,
                          "Expected both YMFVP and XMFVP for each region, found one of them alone; "
                          "the other phase has no fractions.");
         }
@@ -123,15 +126,15 @@ void CompositionTableReader::SetDiagnosticSink(DiagnosticSink sink) {
 ErrorReport CompositionTableReader::Read(const std::string& fileName,
                                          std::vector<CompositionTable>& tables,
                                          std::optional<Units::UNIT_TYPE> units) const {
-    return ReadKeywords({fileName}, diagnosticSink, keywords, tables,
-                        [&](KeywordWalker& walker) { return Reader(walker).Read(units); });
+    return ReadKeywords({fileName}, diagnosticSink, compositionKeywords, tables,
+                        [&](KeywordWalker& walker) { return CompositionFile(walker).Read(units); });
 }
 
 ErrorReport CompositionTableReader::Read(std::istream& in, std::vector<CompositionTable>& tables,
                                          std::optional<Units::UNIT_TYPE> units,
                                          const std::string& name) const {
-    return ReadKeywords({name, &in}, diagnosticSink, keywords, tables,
-                        [&](KeywordWalker& walker) { return Reader(walker).Read(units); });
+    return ReadKeywords({name, &in}, diagnosticSink, compositionKeywords, tables,
+                        [&](KeywordWalker& walker) { return CompositionFile(walker).Read(units); });
 }
 
 } // namespace Orv::FluidBench::IO

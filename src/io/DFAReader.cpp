@@ -3,6 +3,7 @@
 #include "DepthMatch.h"
 #include "DfaExport.h"
 #include "Diagnostics.h"
+#include "FileNumber.h"
 #include "FluidBench/Common/Units.h"
 #include "FluidBench/Experiments/Stage.h"
 #include "FluidBench/Model/ComponentLibrary.h"
@@ -54,10 +55,6 @@ constexpr ComponentGroup componentGroups[] = {
 
 double Depth_ft_To_m(double value) {
     return value * 0.3048;
-}
-
-double AsItIs(double value) {
-    return value;
 }
 
 // Where the results of a stage come from.

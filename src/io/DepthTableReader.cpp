@@ -19,17 +19,17 @@ using Common::ErrorReport;
 using Common::Units;
 using Impl::IO::KeywordWalker;
 using Impl::IO::WantedKeyword;
-namespace Kinds = Impl::IO::KeywordKinds;
+namespace KeywordKinds = Impl::IO::KeywordKinds;
 
 namespace {
 
-constexpr WantedKeyword keywords[] = {{"ZMFVD"},
-                                      {"PBVD"},
-                                      {"PDVD"},
-                                      {"RSVD"},
-                                      {"RVVD"},
-                                      FractionReader::countKeyword,
-                                      FractionReader::namesKeyword};
+constexpr WantedKeyword depthKeywords[] = {{"ZMFVD"},
+                                           {"PBVD"},
+                                           {"PDVD"},
+                                           {"RSVD"},
+                                           {"RVVD"},
+                                           FractionReader::countKeyword,
+                                           FractionReader::namesKeyword};
 
 double OilGasRatioToField(double ratio) {
     return 1.0 / Units::GOR_m3m3_To_Mscfstb(1.0 / ratio);
@@ -49,9 +49,9 @@ constexpr ValueUnits valueUnits[] = {
     {"RVVD", OilGasRatioToField, AsItIs},
 };
 
-class Reader {
+class DepthFile {
 public:
-    explicit Reader(KeywordWalker& walker) : walker_(walker), fractions_(walker, "a depth") {}
+    explicit DepthFile(KeywordWalker& walker) : walker_(walker), fractions_(walker, "a depth") {}
 
     std::vector<DepthTable> Read(std::optional<Units::UNIT_TYPE> units);
 
@@ -63,7 +63,7 @@ private:
     FractionReader fractions_;
 };
 
-DepthTable Reader::ReadTable() {
+DepthTable DepthFile::ReadTable() {
     FractionRows rows;
     if (walker_.Keyword() == "ZMFVD") {
         rows = fractions_.ReadTable();
@@ -79,17 +79,17 @@ DepthTable Reader::ReadTable() {
 }
 
 // The writer keeps the order of a run's stages, so any order is read.
-void Reader::TellOrder(const FractionRows& rows) {
+void DepthFile::TellOrder(const FractionRows& rows) {
     for (std::size_t i = 1; i < rows.first.size(); ++i) {
         if (rows.first[i] < rows.first[i - 1]) {
-            walker_.Tell(Kinds::depthOrder, rows.lines[i],
+            walker_.Tell(KeywordKinds::depthOrder, rows.lines[i],
                          "Expected a depth below that of the row ahead, found one above it; a "
                          "simulator wants them in order.");
         }
     }
 }
 
-std::vector<DepthTable> Reader::Read(std::optional<Units::UNIT_TYPE> units) {
+std::vector<DepthTable> DepthFile::Read(std::optional<Units::UNIT_TYPE> units) {
     std::vector<DepthTable> tables;
     while (walker_.NextKeyword()) {
         if (fractions_.ReadKeyword()) {
@@ -101,7 +101,7 @@ std::vector<DepthTable> Reader::Read(std::optional<Units::UNIT_TYPE> units) {
             if (!further.Depths.empty()) {
                 tables.push_back(std::move(further));
             } else {
-                walker_.Tell(Kinds::noRows, walker_.Line(),
+                walker_.Tell(KeywordKinds::noRows, walker_.Line(),
                              "Expected another table or a keyword, found '/' alone; it doesn't "
                              "count.");
             }
@@ -136,15 +136,15 @@ void DepthTableReader::SetDiagnosticSink(DiagnosticSink sink) {
 
 ErrorReport DepthTableReader::Read(const std::string& fileName, std::vector<DepthTable>& tables,
                                    std::optional<Units::UNIT_TYPE> units) const {
-    return ReadKeywords({fileName}, diagnosticSink, keywords, tables,
-                        [&](KeywordWalker& walker) { return Reader(walker).Read(units); });
+    return ReadKeywords({fileName}, diagnosticSink, depthKeywords, tables,
+                        [&](KeywordWalker& walker) { return DepthFile(walker).Read(units); });
 }
 
 ErrorReport DepthTableReader::Read(std::istream& in, std::vector<DepthTable>& tables,
                                    std::optional<Units::UNIT_TYPE> units,
                                    const std::string& name) const {
-    return ReadKeywords({name, &in}, diagnosticSink, keywords, tables,
-                        [&](KeywordWalker& walker) { return Reader(walker).Read(units); });
+    return ReadKeywords({name, &in}, diagnosticSink, depthKeywords, tables,
+                        [&](KeywordWalker& walker) { return DepthFile(walker).Read(units); });
 }
 
 } // namespace Orv::FluidBench::IO

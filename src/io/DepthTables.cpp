@@ -48,25 +48,25 @@ using Utilities::Equations;
 
 namespace {
 
-struct TableHeading {
+struct DepthHeading {
     const char* keyword;
     const char* title;
     const char* fieldUnits;
     const char* metricUnits;
 };
 
-constexpr TableHeading compositions{"ZMFVD", "Total Composition vs Depth", "ft", "m"};
-constexpr TableHeading bubblePoints{"PBVD", "Pb vs Depth", "psia", "bar"};
-constexpr TableHeading dewPoints{"PDVD", "Pd vs Depth", "psia", "bar"};
-constexpr TableHeading dissolvedGas{"RSVD", "Rs vs Depth", "Field", "Metric "};
-constexpr TableHeading vaporisedOil{"RVVD", "Rv vs Depth", "Field", "Metric "};
+constexpr DepthHeading compositions{"ZMFVD", "Total Composition vs Depth", "ft", "m"};
+constexpr DepthHeading bubblePoints{"PBVD", "Pb vs Depth", "psia", "bar"};
+constexpr DepthHeading dewPoints{"PDVD", "Pd vs Depth", "psia", "bar"};
+constexpr DepthHeading dissolvedGas{"RSVD", "Rs vs Depth", "Field", "Metric "};
+constexpr DepthHeading vaporisedOil{"RVVD", "Rv vs Depth", "Field", "Metric "};
 
-constexpr const TableHeading* headings[] = {&compositions, &bubblePoints, &dewPoints, &dissolvedGas,
+constexpr const DepthHeading* headings[] = {&compositions, &bubblePoints, &dewPoints, &dissolvedGas,
                                             &vaporisedOil};
 
 constexpr NumberFormat sixDigits{std::chars_format::general, 6};
 constexpr std::size_t depthWidth = 12;
-constexpr double depthTolerance = 0.001;
+constexpr double sameDepth = 0.001;
 
 double DepthOf(const Stage& stage) noexcept {
     return stage.Results->Depth.GetValue();
@@ -76,7 +76,7 @@ double DepthOf(const Stage& stage) noexcept {
 void InsertStageByDepth(std::vector<Stage>& stages, const Stage& stage) {
     const double depth = DepthOf(stage);
     for (const Stage& present : stages) {
-        if (Equations::RelativeDoublesEqual(depth, DepthOf(present), depthTolerance)) {
+        if (Equations::RelativeDoublesEqual(depth, DepthOf(present), sameDepth)) {
             return;
         }
     }
@@ -87,7 +87,7 @@ void InsertStageByDepth(std::vector<Stage>& stages, const Stage& stage) {
     });
 }
 
-void BeginTable(std::ostream& out, const TableHeading& table, Units::UNIT_TYPE units) {
+void BeginTable(std::ostream& out, const DepthHeading& table, Units::UNIT_TYPE units) {
     out << "-- Units: " << (units == Units::FIELD ? table.fieldUnits : table.metricUnits) << '\n'
         << table.keyword << "\n-- \n-- " << table.title << "\n-- \n";
 }
@@ -149,7 +149,7 @@ double RatioOfTable(double gasOilRatio, bool isRs, Units::UNIT_TYPE units) {
 }
 
 // A value of a table against depth, in the units of the file.
-double ValueOfTable(const TableHeading& heading, double value, Units::UNIT_TYPE units) {
+double ValueOfTable(const DepthHeading& heading, double value, Units::UNIT_TYPE units) {
     if (&heading == &bubblePoints || &heading == &dewPoints) {
         return units == Units::FIELD ? Units::Pressure_Pa_To_psi(value)
                                      : Units::Pressure_Pa_To_bar(value);
@@ -171,7 +171,7 @@ bool PVOFileWriter::SwitchToLiquidRegion(bool hasContact, bool inLiquidRegion, d
     if (!hasContact || inLiquidRegion) {
         return false;
     }
-    return depth > contactDepth || Equations::DoublesEqual(contactDepth, depth, depthTolerance);
+    return depth > contactDepth || Equations::DoublesEqual(contactDepth, depth, sameDepth);
 }
 
 void PVOFileWriter::UpdateGOR(double& gasOilRatio, const Stage& stage) const {
@@ -311,7 +311,7 @@ ErrorReport PVOFileWriter::ExportDepthTables(const std::vector<DepthTable>& tabl
     const StreamFormat format(out);
     for (const DepthTable& table : tables) {
         const auto* const heading =
-            std::ranges::find_if(headings, [&table](const TableHeading* candidate) {
+            std::ranges::find_if(headings, [&table](const DepthHeading* candidate) {
                 return table.Keyword == candidate->keyword;
             });
         if (heading == std::end(headings)) {

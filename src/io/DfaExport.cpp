@@ -15,6 +15,7 @@ namespace Orv::FluidBench::Impl::IO {
 
 using Text::CellContent;
 using Text::ExtractDecimal;
+using Text::Holds;
 using Text::LineReader;
 using Text::Quote;
 using Text::TakeExtracted;
@@ -23,10 +24,6 @@ namespace {
 
 // Written where nothing was measured.
 constexpr double absentValues[] = {-999.0, -999.25, -9999.0};
-
-bool Holds(std::string_view line, std::string_view words) {
-    return line.find(words) != std::string_view::npos;
-}
 
 // A row as its quotes cut it, without what stands ahead of them.
 struct RowText {
@@ -101,9 +98,9 @@ std::vector<double> NumbersOf(const RowText& row, std::size_t expected) {
 }
 
 // Tells what the parser passes over. It is asked only when somebody listens.
-class Watch {
+class DfaWatch {
 public:
-    Watch(Diagnostics& diagnostics, const LineReader& lines, const DfaFile& file)
+    DfaWatch(Diagnostics& diagnostics, const LineReader& lines, const DfaFile& file)
         : diagnostics_(diagnostics), lines_(lines), file_(file) {}
 
     void NotARow(std::string_view line);
@@ -125,7 +122,7 @@ private:
     const DfaFile& file_;
 };
 
-void Watch::NotARow(std::string_view line) {
+void DfaWatch::NotARow(std::string_view line) {
     const auto quotes = std::ranges::count(line, '"');
     if (quotes > 0) {
         Tell(DfaKinds::notARow, "Expected four double quotes, found " + std::to_string(quotes) +
@@ -136,7 +133,7 @@ void Watch::NotARow(std::string_view line) {
     }
 }
 
-void Watch::Row(const RowText& row, const std::vector<double>& numbers) {
+void DfaWatch::Row(const RowText& row, const std::vector<double>& numbers) {
     Blanks(row);
     const std::string text = NumberTextOf(row);
     std::size_t column = 0;
@@ -168,7 +165,7 @@ void Watch::Row(const RowText& row, const std::vector<double>& numbers) {
 }
 
 // Of a negative value, as those that stand for none are, too.
-void Watch::Value(const DfaColumn& column, double value) {
+void DfaWatch::Value(const DfaColumn& column, double value) {
     std::string found;
     Text::AppendNumber(found, value, {});
     if (std::ranges::find(absentValues, value) != std::end(absentValues)) {
@@ -182,7 +179,7 @@ void Watch::Value(const DfaColumn& column, double value) {
 }
 
 // The reader takes off one character behind each quoted text, and puts together what is left.
-void Watch::Blanks(const RowText& row) {
+void DfaWatch::Blanks(const RowText& row) {
     for (const std::string_view numbers : {row.firstNumbers, row.lastNumbers}) {
         if (!numbers.empty() && !Text::IsSpace(numbers.front())) {
             Tell(DfaKinds::noBlank, "Expected a blank behind the quoted text, found " +
@@ -199,7 +196,7 @@ void Watch::Blanks(const RowText& row) {
     }
 }
 
-void Watch::Part(std::string_view part, std::size_t column) {
+void DfaWatch::Part(std::string_view part, std::size_t column) {
     if (Text::LookAtCell(part) != CellContent::Number) {
         Tell(DfaKinds::textBehindNumber, "Expected a number for column " + std::to_string(column) +
                                              ", found " + Quote(part) +
@@ -207,7 +204,7 @@ void Watch::Part(std::string_view part, std::size_t column) {
     }
 }
 
-void Watch::SecondHeader(std::size_t rows) {
+void DfaWatch::SecondHeader(std::size_t rows) {
     if (rows > 0) {
         Tell(DfaKinds::secondHeader,
              "Expected one line with 'END HEADER', found another one: the " + std::to_string(rows) +
@@ -215,13 +212,13 @@ void Watch::SecondHeader(std::size_t rows) {
     }
 }
 
-void Watch::MissingMark(const char* mark) {
+void DfaWatch::MissingMark(const char* mark) {
     diagnostics_.Tell(DfaKinds::noHeader, 0,
                       std::string("Expected a line with '") + mark + "' in the " + file_.name +
                           ", found none; the pair of files isn't read.");
 }
 
-void Watch::OpenHeader() {
+void DfaWatch::OpenHeader() {
     diagnostics_.Tell(DfaKinds::noHeader, 0,
                       std::string("Expected a line with 'END HEADER' below the last 'BEGIN "
                                   "HEADER' of the ") +
@@ -242,7 +239,7 @@ private:
 
     LineReader lines_;
     Diagnostics& diagnostics_;
-    Watch watch_;
+    DfaWatch watch_;
 
     bool hasBegun_ = false; // the header, by any line
     bool hasEnded_ = false;

@@ -4,7 +4,7 @@
 
 namespace Orv::FluidBench::IO {
 
-namespace Kinds = Impl::IO::KeywordKinds;
+namespace KeywordKinds = Impl::IO::KeywordKinds;
 
 bool FractionReader::ReadKeyword() {
     std::uint64_t components = 0;
@@ -16,7 +16,7 @@ bool FractionReader::ReadKeyword() {
         return false;
     }
     if (components_ && *components_ != components) {
-        walker_.Fail(Kinds::countDiffers, walker_.Line(),
+        walker_.Fail(KeywordKinds::countDiffers, walker_.Line(),
                      std::to_string(*components_) + " components, as were told before",
                      std::to_string(components));
     }
@@ -34,7 +34,7 @@ FractionRows FractionReader::ReadTable() {
     const std::uint64_t width = components_ ? *components_ + 1 : WidthOf(items, end);
     const auto require = [&](bool isTrue, const Item& item, std::uint64_t count) {
         if (!isTrue) {
-            walker_.Fail(Kinds::rowLength, item.line,
+            walker_.Fail(KeywordKinds::rowLength, item.line,
                          Meaning() + ", " + std::to_string(width) + " numbers",
                          std::to_string(count) + " of them");
         }
@@ -96,13 +96,13 @@ std::uint64_t FractionReader::WidthOf(const std::vector<Item>& items, RowEnd end
             break;
         }
         if (items[i].count > mostComponents - width) {
-            walker_.Fail(Kinds::repeatCount, items[i].line, Meaning(),
+            walker_.Fail(KeywordKinds::repeatCount, items[i].line, Meaning(),
                          "a repeat count of " + std::to_string(items[i].count));
         }
         width += items[i].count;
     }
     if (width == 1 && items.size() > 1) {
-        walker_.Fail(Kinds::noRowEnd, items.front().line,
+        walker_.Fail(KeywordKinds::noRowEnd, items.front().line,
                      "a row on each line, an empty line behind each row, or the number of "
                      "components under NCOMPS or CNAMES",
                      "a number on each line");

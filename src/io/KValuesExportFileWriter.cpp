@@ -18,6 +18,7 @@
 // The comment "-- " ahead of the records ends in a blank.
 #include "io/KValuesExportFileWriter.h"
 
+#include "Decimals.h"
 #include "DeckText.h"
 #include "Messages.h"
 #include "OutputFile.h"
@@ -36,13 +37,6 @@ using Impl::IO::CsvUnsupported;
 using Impl::IO::WriteFile;
 using Model::KValuesTable;
 using Text::StreamFormat;
-
-namespace {
-
-constexpr int decimalsOfHighPrecision = 15;
-constexpr int decimals = 8;
-
-} // namespace
 
 KValuesExportFileWriter::KValuesExportFileWriter(bool useHighPrecision, FILE_TYPE type)
     : highPrecision(useHighPrecision), fileType(type) {}
@@ -75,7 +69,7 @@ ErrorReport KValuesExportFileWriter::WriteTables(std::span<const KValuesTable> t
     }
     const StreamFormat format(out);
     out << std::fixed;
-    out.precision(highPrecision ? decimalsOfHighPrecision : decimals);
+    out.precision(highPrecision ? decimalsOfHighPrecision : decimalsOfTables);
     const std::unique_ptr<IKValuesTableFormatter> formatter =
         std::make_unique<KValuesTableFormatter>(unitType);
     formatter->Echo(out);

@@ -11,6 +11,7 @@
 #include "io/KValuesKeywordReader.h"
 
 #include "FileNumber.h"
+#include "KValuesColumns.h"
 #include "KeywordWalker.h"
 #include "NumberText.h"
 #include "Quote.h"
@@ -27,15 +28,14 @@ using Impl::IO::KeywordWalker;
 using Impl::IO::WantedKeyword;
 using Model::KValuesTable;
 using Text::Quote;
-namespace Kinds = Impl::IO::KeywordKinds;
+namespace KeywordKinds = Impl::IO::KeywordKinds;
 
 namespace {
 
 constexpr bool isNoContent = false;
-constexpr WantedKeyword keywords[] = {{"KVTABLE"}, {"CNAMES", isNoContent}};
+constexpr WantedKeyword kValuesKeywords[] = {{"KVTABLE"}, {"CNAMES", isNoContent}};
 
 constexpr std::string_view blanks = " \t";
-constexpr std::size_t cellWidth = 24;
 
 std::string_view Trimmed(std::string_view text) {
     const std::size_t first = text.find_first_not_of(blanks);
@@ -48,8 +48,9 @@ std::string_view Trimmed(std::string_view text) {
 std::vector<std::string> NamesInCells(std::string_view cells) {
     std::vector<std::string> names;
     while (!cells.empty()) {
-        const std::size_t width =
-            cells.size() > cellWidth ? cells.find(' ', cellWidth) : std::string_view::npos;
+        const std::size_t width = cells.size() > kValuesCellWidth
+                                      ? cells.find(' ', kValuesCellWidth)
+                                      : std::string_view::npos;
         const std::string_view cell = cells.substr(0, width);
         names.emplace_back(cell.substr(0, cell.find_last_not_of(' ') + 1));
         cells.remove_prefix(width == std::string_view::npos ? cells.size() : width + 1);
@@ -68,16 +69,16 @@ std::vector<std::string> NamesInWords(std::string_view words) {
 }
 
 // A table with its pressures in the units of the file.
-struct Table {
+struct TableOfFile {
     std::optional<double> temperature; // K
     std::vector<std::string> names;
     std::vector<std::vector<double>> rows;
     std::uint64_t line = 0;
 };
 
-class Reader {
+class KValuesFile {
 public:
-    explicit Reader(KeywordWalker& walker) : walker_(walker) {
+    explicit KValuesFile(KeywordWalker& walker) : walker_(walker) {
         walker_.SetCommentWatch([this](std::string_view comment) { ReadComment(comment); });
     }
 
@@ -93,10 +94,10 @@ private:
     std::optional<double> temperature_; // ahead of the next table
     std::optional<std::vector<std::string>> names_;
     bool hasNewNames_ = false; // a heading that no table has had yet
-    std::vector<Table> tables_;
+    std::vector<TableOfFile> tables_;
 };
 
-void Reader::ReadComment(std::string_view comment) {
+void KValuesFile::ReadComment(std::string_view comment) {
     // The heading as it is written has its first cell filled up with blanks.
     constexpr std::string_view components = "Components:";
     constexpr std::string_view firstCell = " Components:           ";
@@ -107,7 +108,7 @@ void Reader::ReadComment(std::string_view comment) {
         ReadTemperature(text, true);
     } else if (text.starts_with(components)) {
         if (std::exchange(hasNewNames_, true)) {
-            walker_.Fail(Kinds::nameTwice, walker_.PositionLine(),
+            walker_.Fail(KeywordKinds::nameTwice, walker_.PositionLine(),
                          "one line of components ahead of a table", "a second one");
         }
         const bool hasCells = comment.starts_with(firstCell) && comment.ends_with(' ');
@@ -117,11 +118,12 @@ void Reader::ReadComment(std::string_view comment) {
     }
 }
 
-void Reader::ReadTemperature(std::string_view comment, bool isField) {
+void KValuesFile::ReadTemperature(std::string_view comment, bool isField) {
     const std::string_view text = Trimmed(comment.substr(comment.find(':') + 1));
     double number = 0.0;
     if (!Text::ParseNumber(text, number)) {
-        walker_.Fail(Kinds::notANumber, walker_.PositionLine(), "a temperature", Quote(text));
+        walker_.Fail(KeywordKinds::notANumber, walker_.PositionLine(), "a temperature",
+                     Quote(text));
     }
     walker_.NoteUnits(isField ? Units::FIELD : Units::METRIC, comment);
     temperature_ =
@@ -129,20 +131,20 @@ void Reader::ReadTemperature(std::string_view comment, bool isField) {
                 : number;
 }
 
-void Reader::SetNames(std::vector<std::string> names, std::uint64_t line) {
+void KValuesFile::SetNames(std::vector<std::string> names, std::uint64_t line) {
     std::unordered_set<std::string_view> known;
     for (const std::string& name : names) {
         if (!known.insert(name).second) {
-            walker_.Fail(Kinds::nameTwice, line, "a name for each component alone",
+            walker_.Fail(KeywordKinds::nameTwice, line, "a name for each component alone",
                          Quote(name) + " twice");
         }
     }
     names_ = std::move(names);
 }
 
-void Reader::ReadTable() {
+void KValuesFile::ReadTable() {
     if (!names_) {
-        walker_.Fail(Kinds::noNames, walker_.PositionLine(),
+        walker_.Fail(KeywordKinds::noNames, walker_.PositionLine(),
                      "the components ahead of the table, in a comment '-- Components:' or under "
                      "CNAMES",
                      "neither");
@@ -150,20 +152,20 @@ void Reader::ReadTable() {
     const std::size_t width = names_->size() + 1;
     const std::string meaning =
         "a pressure and " + std::to_string(names_->size()) + " K-values, one for each component";
-    Table table{std::exchange(temperature_, std::nullopt), *names_, {}, 0};
+    TableOfFile table{std::exchange(temperature_, std::nullopt), *names_, {}, 0};
     hasNewNames_ = false;
     for (std::vector<double> row(width); walker_.ReadRow(row, meaning);) {
         table.rows.push_back(row);
     }
     table.line = walker_.Line();
     if (table.rows.empty()) {
-        walker_.Tell(Kinds::noRows, table.line,
+        walker_.Tell(KeywordKinds::noRows, table.line,
                      "Expected rows of numbers ahead of the table's end, found none.");
     }
     tables_.push_back(std::move(table));
 }
 
-std::vector<KValuesTable> Reader::Read(std::optional<Units::UNIT_TYPE> units) {
+std::vector<KValuesTable> KValuesFile::Read(std::optional<Units::UNIT_TYPE> units) {
     while (walker_.NextKeyword()) {
         if (walker_.Keyword() == "CNAMES") {
             SetNames(walker_.ReadNames(), walker_.Line());
@@ -181,7 +183,7 @@ std::vector<KValuesTable> Reader::Read(std::optional<Units::UNIT_TYPE> units) {
     const FileNumber pressure(isField ? Units::Pressure_Pa_To_psi : Units::Pressure_Pa_To_bar,
                               walker_.HasLongNumbers());
     std::vector<KValuesTable> tables;
-    for (Table& table : tables_) {
+    for (TableOfFile& table : tables_) {
         KValuesTable& whole = tables.emplace_back(std::move(table.names));
         whole.Temperature = table.temperature.value_or(whole.Temperature);
         for (std::vector<double>& row : table.rows) {
@@ -204,15 +206,15 @@ void KValuesKeywordReader::SetDiagnosticSink(DiagnosticSink sink) {
 ErrorReport KValuesKeywordReader::Read(const std::string& fileName,
                                        std::vector<KValuesTable>& tables,
                                        std::optional<Units::UNIT_TYPE> units) const {
-    return ReadKeywords({fileName}, diagnosticSink, keywords, tables,
-                        [&](KeywordWalker& walker) { return Reader(walker).Read(units); });
+    return ReadKeywords({fileName}, diagnosticSink, kValuesKeywords, tables,
+                        [&](KeywordWalker& walker) { return KValuesFile(walker).Read(units); });
 }
 
 ErrorReport KValuesKeywordReader::Read(std::istream& in, std::vector<KValuesTable>& tables,
                                        std::optional<Units::UNIT_TYPE> units,
                                        const std::string& name) const {
-    return ReadKeywords({name, &in}, diagnosticSink, keywords, tables,
-                        [&](KeywordWalker& walker) { return Reader(walker).Read(units); });
+    return ReadKeywords({name, &in}, diagnosticSink, kValuesKeywords, tables,
+                        [&](KeywordWalker& walker) { return KValuesFile(walker).Read(units); });
 }
 
 } // namespace Orv::FluidBench::IO

@@ -1,5 +1,6 @@
 #include "io/KValuesTableFormatter.h"
 
+#include "KValuesColumns.h"
 #include "NumberText.h"
 
 #include <cstddef>
@@ -17,8 +18,6 @@ using Text::WriteNumber;
 
 namespace {
 
-constexpr std::size_t cellWidth = 24;
-
 // A line on its way to the stream, which is left-adjusted. A blank follows each cell; what is wider
 // than a cell isn't cut.
 class CellLine {
@@ -26,11 +25,11 @@ public:
     explicit CellLine(std::ostream& out) : out_(out) {}
 
     void Add(std::string_view text) {
-        const std::size_t end = line_.Size() + cellWidth;
+        const std::size_t end = line_.Size() + kValuesCellWidth;
         (line_ += text).FillTo(end, out_.fill()) += ' ';
     }
     void Add(double value) {
-        AppendAsInserted(line_, value, out_, cellWidth);
+        AppendAsInserted(line_, value, out_, kValuesCellWidth);
         line_ += ' ';
     }
     void End() {

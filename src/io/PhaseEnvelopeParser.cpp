@@ -13,6 +13,7 @@ namespace Orv::FluidBench::Impl::IO {
 using Common::CommonPlottingObject;
 using Common::Line;
 using Common::PTline;
+using Text::Holds;
 using Text::IsDigit;
 using Text::ParseLeadingDecimal;
 using Text::TakeLeadingDecimal;
@@ -23,10 +24,6 @@ namespace {
 
 constexpr std::string_view hydrateTypeI = "Hydrate type I";
 constexpr std::string_view hydrateTypeII = "Hydrate type II";
-
-bool Holds(std::string_view line, std::string_view word) {
-    return line.find(word) != std::string_view::npos;
-}
 
 // The one heading that another begins with: there it doesn't count.
 bool HoldsHydrateTypeI(std::string_view line) {

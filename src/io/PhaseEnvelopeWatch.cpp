@@ -19,11 +19,12 @@ using Text::LookAtCell;
 using Text::ParseLeadingDecimal;
 using Text::Quote;
 using Text::WithoutBlanks;
+using Text::WithoutPadding;
 
 namespace {
 
-constexpr CellKinds cellKinds{EnvelopeKinds::notANumber, EnvelopeKinds::textBesideNumber,
-                              EnvelopeKinds::notFinite, ParseLeadingDecimal};
+constexpr CellKinds envelopeCells{EnvelopeKinds::notANumber, EnvelopeKinds::textBesideNumber,
+                                  EnvelopeKinds::notFinite, ParseLeadingDecimal};
 constexpr std::string_view axisNames[] = {"temperature", "pressure"};
 
 bool HasDigit(std::string_view text) {
@@ -36,10 +37,6 @@ bool HoldsNumber(std::string_view heading) {
 }
 
 // A spreadsheet fills its lines up with separators.
-std::string_view WithoutPadding(std::string_view text) {
-    return text.substr(0, text.find_last_not_of(", \t") + 1);
-}
-
 // What a units line tells, without blanks, quotes and padding, and with commas for tabs. Nothing
 // where the line is another one: people spell its key in several ways.
 std::optional<std::string> UnitsOf(std::string_view line) {
@@ -148,7 +145,7 @@ void PhaseEnvelopeWatch::Fraction(std::string_view cell) {
     constexpr std::string_view column = "vapour fraction";
     const double fraction = ParseLeadingDecimal(cell);
     if (LookAtCell(cell) != CellContent::Number) {
-        TellCell(diagnostics_, cellKinds, lines_.Number(), column, cell,
+        TellCell(diagnostics_, envelopeCells, lines_.Number(), column, cell,
                  "the line and its pair of columns don't count");
     } else if (!(fraction >= 0.0 && fraction <= 1.0)) {
         Tell(EnvelopeKinds::fractionRange, "Expected a vapour fraction from 0 to 1, found " +
@@ -225,7 +222,7 @@ bool PhaseEnvelopeWatch::Cell(std::string_view cell, std::string_view column) {
                                                   ", found " + Quote(cell) +
                                                   "; the number behind the text was taken.");
     } else {
-        TellCell(diagnostics_, cellKinds, lines_.Number(), column, cell, "it counts as 0");
+        TellCell(diagnostics_, envelopeCells, lines_.Number(), column, cell, "it counts as 0");
     }
     return hasNumber;
 }

@@ -45,11 +45,11 @@ AxisText TextOf(AxisType axis) {
 }
 
 // Cells and lines on their way to the file, in large blocks.
-class Cells {
+class RowWriter {
 public:
-    Cells(std::ostream& out, char separator) : out_(out), separator_(separator) {}
-    Cells(const Cells&) = delete;
-    Cells& operator=(const Cells&) = delete;
+    RowWriter(std::ostream& out, char separator) : out_(out), separator_(separator) {}
+    RowWriter(const RowWriter&) = delete;
+    RowWriter& operator=(const RowWriter&) = delete;
 
     void Add(std::string_view text) { (block_ += text) += separator_; }
     void Add(double number) {
@@ -108,14 +108,14 @@ std::vector<Pair> CollectPairs(const CommonPlottingObject& plot) {
     return pairs;
 }
 
-void WriteHeader(Cells& cells, const AxisText& x, const AxisText& y) {
+void WriteHeader(RowWriter& cells, const AxisText& x, const AxisText& y) {
     cells.EndLine("Flash: ");
     cells.EndLine("Source: ");
     cells.EndLine("Units: " + std::string(x.unit) + ", " + std::string(y.unit));
     cells.EndLine();
 }
 
-void WriteColumnHeadings(Cells& cells, const std::vector<Pair>& pairs, const AxisText& x,
+void WriteColumnHeadings(RowWriter& cells, const std::vector<Pair>& pairs, const AxisText& x,
                          const AxisText& y) {
     for (const Pair& pair : pairs) {
         cells.Add(pair.heading);
@@ -129,7 +129,7 @@ void WriteColumnHeadings(Cells& cells, const std::vector<Pair>& pairs, const Axi
     cells.EndLine();
 }
 
-void WriteRow(Cells& cells, const std::vector<Pair>& pairs, std::size_t row) {
+void WriteRow(RowWriter& cells, const std::vector<Pair>& pairs, std::size_t row) {
     for (const Pair& pair : pairs) {
         if (row < pair.points.size()) {
             cells.Add(pair.points[row].x);
@@ -142,7 +142,7 @@ void WriteRow(Cells& cells, const std::vector<Pair>& pairs, std::size_t row) {
     cells.EndLine();
 }
 
-void WritePlot(Cells& cells, const CommonPlottingObject& plot) {
+void WritePlot(RowWriter& cells, const CommonPlottingObject& plot) {
     const AxisText x = TextOf(plot.GetXAxisType());
     const AxisText y = TextOf(plot.GetYAxisType());
     const std::vector<Pair> pairs = CollectPairs(plot);
@@ -163,7 +163,7 @@ void WritePlot(Cells& cells, const CommonPlottingObject& plot) {
 
 void WritePhaseEnvelopes(std::ostream& out, const std::vector<CommonPlottingObject>& plots,
                          char separator) {
-    Cells cells(out, separator);
+    RowWriter cells(out, separator);
     for (const CommonPlottingObject& plot : plots) {
         WritePlot(cells, plot);
     }

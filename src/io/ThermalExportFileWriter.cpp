@@ -1,5 +1,6 @@
 #include "io/ThermalExportFileWriter.h"
 
+#include "Decimals.h"
 #include "DeckText.h"
 #include "Messages.h"
 #include "OutputFile.h"
@@ -25,8 +26,6 @@ using Text::StreamFormat;
 
 namespace {
 
-constexpr int decimalsOfHighPrecision = 15;
-constexpr int decimals = 8;
 constexpr int decimalsBehindMolecularWeights = 16;
 
 // Throws where a vector of the table hasn't one value for each component.
@@ -128,7 +127,7 @@ ErrorReport ThermalExportFileWriter::ExportToFile(const ThermalExportTable& tabl
     RequireOneValuePerComponent(table);
     const StreamFormat format(out);
     out << std::fixed;
-    out.precision(highPrecision ? decimalsOfHighPrecision : decimals);
+    out.precision(highPrecision ? decimalsOfHighPrecision : decimalsOfTables);
     const std::unique_ptr<IThermalTableFormatter> formatter =
         std::make_unique<ThermalTableFormatter>(unitType);
     WriteSections(out, *formatter, table, unitType);

@@ -28,11 +28,11 @@ using Common::Units;
 using Impl::IO::KeywordWalker;
 using Impl::IO::WantedKeyword;
 using Model::ThermalExportTable;
-namespace Kinds = Impl::IO::KeywordKinds;
+namespace KeywordKinds = Impl::IO::KeywordKinds;
 
 namespace {
 
-constexpr int decimals = 16; // behind the molecular weights
+constexpr int decimalsOfHeat = 16; // behind the molecular weights
 constexpr int decimalsOfShortWeights = 8;
 constexpr int decimalsOfLongWeights = 15;
 
@@ -88,7 +88,7 @@ constexpr FitRow fitRows[] = {
 };
 // clang-format on
 
-constexpr auto keywords = [] {
+constexpr auto thermalKeywords = [] {
     std::array<WantedKeyword, std::size(sections) + 5> all{
         WantedKeyword{"STCOND"}, {"NCOMPS"}, {"CNAMES"}, {"KVCR"}, {"KVWI"}};
     for (std::size_t i = 0; i < std::size(sections); ++i) {
@@ -104,14 +104,14 @@ double CelsiusToKelvin(double value) {
 Values ToModel(Values values, FileNumber::Conversion toFile) {
     const FileNumber number(toFile, true);
     for (double& value : values) {
-        value = number.ToModel(value, decimals);
+        value = number.ToModel(value, decimalsOfHeat);
     }
     return values;
 }
 
-class Reader {
+class ThermalFile {
 public:
-    explicit Reader(KeywordWalker& walker) : walker_(walker) {}
+    explicit ThermalFile(KeywordWalker& walker) : walker_(walker) {}
 
     ThermalExportTable Read(std::optional<Units::UNIT_TYPE> units);
 
@@ -139,7 +139,7 @@ private:
     int decimalsOfWeights_ = decimalsOfShortWeights;
 };
 
-void Reader::ReadKeyword() {
+void ThermalFile::ReadKeyword() {
     const std::string keyword = walker_.Keyword();
     if (keyword == "STCOND") {
         TellSecond(conditions_.has_value());
@@ -164,29 +164,29 @@ void Reader::ReadKeyword() {
     }
 }
 
-void Reader::ReadNames() {
+void ThermalFile::ReadNames() {
     if (names_) {
-        walker_.Fail(Kinds::nameTwice, walker_.PositionLine(), "CNAMES once", "it twice");
+        walker_.Fail(KeywordKinds::nameTwice, walker_.PositionLine(), "CNAMES once", "it twice");
     }
     names_ = walker_.ReadNames();
     std::unordered_set<std::string_view> known;
     for (const std::string& name : *names_) {
         if (!known.insert(name).second) {
-            walker_.Fail(Kinds::nameTwice, walker_.Line(), "a name for each component alone",
+            walker_.Fail(KeywordKinds::nameTwice, walker_.Line(), "a name for each component alone",
                          Text::Quote(name) + " twice");
         }
     }
 }
 
-std::size_t Reader::Components() {
+std::size_t ThermalFile::Components() {
     if (!names_) {
-        walker_.Fail(Kinds::noNames, walker_.PositionLine(),
+        walker_.Fail(KeywordKinds::noNames, walker_.PositionLine(),
                      "CNAMES ahead of a keyword with a value for each component", "none");
     }
     return names_->size();
 }
 
-void Reader::ReadFit() {
+void ThermalFile::ReadFit() {
     TellSecond(fit_.has_value() || hasNoFit_);
     const std::size_t n = Components();
     const std::string meaning =
@@ -200,7 +200,7 @@ void Reader::ReadFit() {
     }
 }
 
-void Reader::ReadSection(std::size_t index) {
+void ThermalFile::ReadSection(std::size_t index) {
     TellSecond(sections_[index].has_value());
     const std::size_t n = Components();
     sections_[index].emplace(n);
@@ -212,27 +212,27 @@ void Reader::ReadSection(std::size_t index) {
 }
 
 // A record of no components has no number.
-void Reader::ReadValues(Values& values, std::string_view meaning) {
+void ThermalFile::ReadValues(Values& values, std::string_view meaning) {
     if (!values.empty() && !walker_.ReadRow(values, meaning, KeywordWalker::Defaults::AreZero)) {
-        walker_.Fail(Kinds::rowLength, walker_.Line(), std::string(meaning), "'/'");
+        walker_.Fail(KeywordKinds::rowLength, walker_.Line(), std::string(meaning), "'/'");
     }
     walker_.EndRecord(meaning);
 }
 
-void Reader::TellSecond(bool isSecond) {
+void ThermalFile::TellSecond(bool isSecond) {
     if (isSecond) {
-        walker_.Tell(Kinds::secondTime, walker_.PositionLine(),
+        walker_.Tell(KeywordKinds::secondTime, walker_.PositionLine(),
                      "Expected " + walker_.Keyword() +
                          " once, found it a second time; this time counts.");
     }
 }
 
-const std::optional<Values>& Reader::Section(std::string_view keyword) const {
+const std::optional<Values>& ThermalFile::Section(std::string_view keyword) const {
     const auto* const section = std::ranges::find(sections, keyword, &ThermalSection::keyword);
     return sections_[static_cast<std::size_t>(section - std::begin(sections))];
 }
 
-void Reader::SetConditions(ThermalExportTable& table, bool isField) {
+void ThermalFile::SetConditions(ThermalExportTable& table, bool isField) {
     if (conditions_) {
         const FileNumber temperature =
             isField ? FileNumber(Units::Temperature_K_To_F, Units::Temperature_F_To_K)
@@ -244,7 +244,7 @@ void Reader::SetConditions(ThermalExportTable& table, bool isField) {
     }
 }
 
-void Reader::SetHeat(ThermalExportTable& table, bool isField) {
+void ThermalFile::SetHeat(ThermalExportTable& table, bool isField) {
     const std::size_t n = table.ComponentNames.size();
     for (Values* const coefficient :
          {&table.SpecificHeatA, &table.SpecificHeatB, &table.SpecificHeatC, &table.SpecificHeatD}) {
@@ -258,14 +258,14 @@ void Reader::SetHeat(ThermalExportTable& table, bool isField) {
     }
     if (!isGas && ((Section("SPECHG") && Section("SPECHG") != values) ||
                    (Section("SPECHH") && Section("SPECHH") != slopes))) {
-        walker_.Tell(Kinds::gasHeat, 0,
+        walker_.Tell(KeywordKinds::gasHeat, 0,
                      "Expected the same heat capacities for oil and gas, found others; the table "
                      "has those of the oil.");
     }
     for (std::size_t i = 0; i < n; ++i) {
         const double molecularWeight = table.MolecularWeights[i];
         if (molecularWeight == 0.0) {
-            walker_.Tell(Kinds::noHeat, 0,
+            walker_.Tell(KeywordKinds::noHeat, 0,
                          "Expected a molecular weight other than 0 for " +
                              Text::Quote(table.ComponentNames[i]) +
                              ", found none; it has no heat capacity.");
@@ -279,16 +279,16 @@ void Reader::SetHeat(ThermalExportTable& table, bool isField) {
         table.MolecularWeights[i] = line.molecularWeight;
     }
     if (n > 0) {
-        walker_.Tell(Kinds::heatLine, 0,
+        walker_.Tell(KeywordKinds::heatLine, 0,
                      "Expected a cubic heat capacity, found its value and slope at one "
                      "temperature; the table has the line through them.");
     }
 }
 
-void Reader::TellMissing() {
+void ThermalFile::TellMissing() {
     const auto tell = [&](std::string_view keyword, bool isThere) {
         if (!isThere) {
-            walker_.Tell(Kinds::missingKeyword, 0,
+            walker_.Tell(KeywordKinds::missingKeyword, 0,
                          "Expected " + std::string(keyword) +
                              ", found no such keyword; its values count as 0.");
         }
@@ -300,14 +300,14 @@ void Reader::TellMissing() {
     tell("KVCR or KVWI", fit_.has_value() || hasNoFit_);
 }
 
-ThermalExportTable Reader::Read(std::optional<Units::UNIT_TYPE> units) {
+ThermalExportTable ThermalFile::Read(std::optional<Units::UNIT_TYPE> units) {
     while (walker_.NextKeyword()) {
         ReadKeyword();
     }
     const bool isField = walker_.IsField(units);
     const std::size_t n = Components();
     if (count_ && *count_ != n) {
-        walker_.Fail(Kinds::countDiffers, walker_.PositionLine(),
+        walker_.Fail(KeywordKinds::countDiffers, walker_.PositionLine(),
                      std::to_string(n) + " components under NCOMPS, as there are names",
                      std::to_string(*count_));
     }
@@ -346,15 +346,15 @@ void ThermalKeywordReader::SetDiagnosticSink(DiagnosticSink sink) {
 
 ErrorReport ThermalKeywordReader::Read(const std::string& fileName, ThermalExportTable& table,
                                        std::optional<Units::UNIT_TYPE> units) const {
-    return ReadKeywords({fileName}, diagnosticSink, keywords, table,
-                        [&](KeywordWalker& walker) { return Reader(walker).Read(units); });
+    return ReadKeywords({fileName}, diagnosticSink, thermalKeywords, table,
+                        [&](KeywordWalker& walker) { return ThermalFile(walker).Read(units); });
 }
 
 ErrorReport ThermalKeywordReader::Read(std::istream& in, ThermalExportTable& table,
                                        std::optional<Units::UNIT_TYPE> units,
                                        const std::string& name) const {
-    return ReadKeywords({name, &in}, diagnosticSink, keywords, table,
-                        [&](KeywordWalker& walker) { return Reader(walker).Read(units); });
+    return ReadKeywords({name, &in}, diagnosticSink, thermalKeywords, table,
+                        [&](KeywordWalker& walker) { return ThermalFile(walker).Read(units); });
 }
 
 } // namespace Orv::FluidBench::IO

@@ -25,6 +25,7 @@ using Orv::FluidBench::IO::BlackOilKeywordReader;
 using Orv::FluidBench::Model::BlackOilDataRecords;
 using Orv::FluidBench::Model::BlackOilTable;
 
+namespace BlackOil {
 namespace {
 
 using Writer = BlackOilExportFileWriter;
@@ -41,6 +42,7 @@ constexpr std::pair<std::string_view, Writer::EXPORT_TYPE> tableChoices[] = {
     {"dead-dry", Writer::DEAD_OIL_DRY_GAS}};
 
 } // namespace
+} // namespace BlackOil
 
 BlackOilFile ReadBlackOil(Input& input, Call& call) {
     Messages& messages = call.Told();
@@ -52,7 +54,7 @@ BlackOilFile ReadBlackOil(Input& input, Call& call) {
     }
     RequireMetric(input, call);
     const std::uint64_t errors = messages.Errors();
-    Writer reader;
+    BlackOilExportFileWriter reader;
     reader.SetDiagnosticSink(messages.Sink());
     reader.SetReadsSaturationPoint(true);
     file.regions.push_back(reader.GetTableFromCSVFile(input.Text(), input.Name()));
@@ -62,6 +64,7 @@ BlackOilFile ReadBlackOil(Input& input, Call& call) {
     return file;
 }
 
+namespace BlackOil {
 namespace {
 
 BlackOilFile ReadTables(std::size_t operand, Call& call) {
@@ -499,12 +502,14 @@ constexpr Command commands[] = {
 
 } // namespace
 
-std::span<const Command> BlackOilCommands() {
+std::span<const Command> Commands() {
     return commands;
 }
 
-void CheckBlackOil(Input& input, Call& call) {
+void Check(Input& input, Call& call) {
     ReadBlackOil(input, call);
 }
+
+} // namespace BlackOil
 
 } // namespace FluidBenchTool

@@ -87,16 +87,16 @@ void RefuseSameFile(Call& call, const std::string& input, const std::string& out
 
 std::span<const Family> Families() {
     static const Family families[] = {
-        {"deck", "keyword decks of compositional fluids", DeckCommands(), CheckDeck},
-        {"blackoil", "black-oil tables", BlackOilCommands(), CheckBlackOil},
-        {"compositions", "compositions against pressure", CompositionsCommands(),
-         CheckCompositions},
-        {"kvalues", "K-value tables", KValuesCommands(), CheckKValues},
-        {"thermal", "thermal data", ThermalCommands(), CheckThermal},
-        {"depth", "fluids by depth", DepthCommands(), CheckDepth},
-        {"envelope", "phase envelopes", EnvelopeCommands(), CheckEnvelope},
-        {"dfa", "downhole fluid analyses", DfaCommands(), CheckDfa},
-        {"mfl", "MFL fluid files", MflCommands(), CheckMfl},
+        {"deck", "keyword decks of compositional fluids", Deck::Commands(), Deck::Check},
+        {"blackoil", "black-oil tables", BlackOil::Commands(), BlackOil::Check},
+        {"compositions", "compositions against pressure", Compositions::Commands(),
+         Compositions::Check},
+        {"kvalues", "K-value tables", KValues::Commands(), KValues::Check},
+        {"thermal", "thermal data", Thermal::Commands(), Thermal::Check},
+        {"depth", "fluids by depth", Depth::Commands(), Depth::Check},
+        {"envelope", "phase envelopes", Envelope::Commands(), Envelope::Check},
+        {"dfa", "downhole fluid analyses", Dfa::Commands(), Dfa::Check},
+        {"mfl", "MFL fluid files", Mfl::Commands(), Mfl::Check},
     };
     return families;
 }

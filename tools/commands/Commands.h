@@ -133,23 +133,41 @@ std::span<const Family> Families();
 std::span<const Command> GeneralCommands();
 
 // Of each family, its commands and its check.
-std::span<const Command> BlackOilCommands();
-void CheckBlackOil(Input& input, Call& call);
-std::span<const Command> CompositionsCommands();
-void CheckCompositions(Input& input, Call& call);
-std::span<const Command> DeckCommands();
-void CheckDeck(Input& input, Call& call);
-std::span<const Command> DepthCommands();
-void CheckDepth(Input& input, Call& call);
-std::span<const Command> DfaCommands();
-void CheckDfa(Input& input, Call& call);
-std::span<const Command> EnvelopeCommands();
-void CheckEnvelope(Input& input, Call& call);
-std::span<const Command> KValuesCommands();
-void CheckKValues(Input& input, Call& call);
-std::span<const Command> ThermalCommands();
-void CheckThermal(Input& input, Call& call);
-std::span<const Command> MflCommands();
-void CheckMfl(Input& input, Call& call);
+namespace BlackOil {
+std::span<const Command> Commands();
+void Check(Input& input, Call& call);
+} // namespace BlackOil
+namespace Compositions {
+std::span<const Command> Commands();
+void Check(Input& input, Call& call);
+} // namespace Compositions
+namespace Deck {
+std::span<const Command> Commands();
+void Check(Input& input, Call& call);
+} // namespace Deck
+namespace Depth {
+std::span<const Command> Commands();
+void Check(Input& input, Call& call);
+} // namespace Depth
+namespace Dfa {
+std::span<const Command> Commands();
+void Check(Input& input, Call& call);
+} // namespace Dfa
+namespace Envelope {
+std::span<const Command> Commands();
+void Check(Input& input, Call& call);
+} // namespace Envelope
+namespace KValues {
+std::span<const Command> Commands();
+void Check(Input& input, Call& call);
+} // namespace KValues
+namespace Mfl {
+std::span<const Command> Commands();
+void Check(Input& input, Call& call);
+} // namespace Mfl
+namespace Thermal {
+std::span<const Command> Commands();
+void Check(Input& input, Call& call);
+} // namespace Thermal
 
 } // namespace FluidBenchTool

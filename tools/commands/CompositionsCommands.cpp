@@ -16,6 +16,7 @@ using Orv::FluidBench::Common::Units;
 using Orv::FluidBench::IO::CompositionTable;
 using Orv::FluidBench::IO::CompositionTableReader;
 
+namespace Compositions {
 namespace {
 
 using Tables = std::vector<CompositionTable>;
@@ -139,12 +140,14 @@ constexpr Command commands[] = {{"compositions", "show",
 
 } // namespace
 
-std::span<const Command> CompositionsCommands() {
+std::span<const Command> Commands() {
     return commands;
 }
 
-void CheckCompositions(Input& input, Call& call) {
+void Check(Input& input, Call& call) {
     ReadTables(input, call);
 }
+
+} // namespace Compositions
 
 } // namespace FluidBenchTool

@@ -25,6 +25,7 @@ using Orv::FluidBench::IO::PVOFileReader;
 using Orv::FluidBench::IO::PVOFileWriter;
 using UnitSystem = pvtEnumPVOUnitSystemType;
 
+namespace Deck {
 namespace {
 
 constexpr Option temperature{"--temperature", "DEGREES",
@@ -177,6 +178,16 @@ constexpr Command commands[] = {
 
 } // namespace
 
+std::span<const Command> Commands() {
+    return commands;
+}
+
+void Check(Input& input, Call& call) {
+    ReadDeck(input, call);
+}
+
+} // namespace Deck
+
 FluidFile ReadDeck(Input& input, Call& call) {
     Messages& messages = call.Told();
     const Progress progress(messages, "Reading " + input.Name());
@@ -187,7 +198,7 @@ FluidFile ReadDeck(Input& input, Call& call) {
     reader.SetPVOUnitSystem(units == Units::FIELD ? UnitSystem::Field : UnitSystem::Metric);
     // The simulator's logger prints on its own; what it has to say comes to the sink too.
     reader.SetPVOErrorMessageSeverityLevel(pvtEnumPVOErrorSeverityLevel::Fatal);
-    if (call.Asked().Has(verbose)) {
+    if (call.Asked().Has(Deck::verbose)) {
         messages.TellNotes();
     }
     reader.SetDiagnosticSink(messages.Sink());
@@ -201,14 +212,6 @@ FluidFile ReadDeck(Input& input, Call& call) {
 FluidFile ReadFluid(Input& input, Call& call) {
     const bool isMfl = FindFormat(input.Text()).name == "mfl";
     return isMfl ? ReadMfl(input, call) : ReadDeck(input, call);
-}
-
-std::span<const Command> DeckCommands() {
-    return commands;
-}
-
-void CheckDeck(Input& input, Call& call) {
-    ReadDeck(input, call);
 }
 
 } // namespace FluidBenchTool

@@ -31,6 +31,7 @@ using Orv::FluidBench::IO::PVOFileWriter;
 using Orv::FluidBench::Model::CompositionalFluid;
 using Orv::FluidBench::Model::FluidComponent;
 
+namespace Depth {
 namespace {
 
 constexpr Option table{
@@ -190,6 +191,7 @@ void RowReader::Read(DepthFile& file) {
 }
 
 } // namespace
+} // namespace Depth
 
 void ReadDepth(Input& input, Call& call, DepthFile& file) {
     const Progress progress(call.Told(), "Reading " + input.Name());
@@ -198,9 +200,10 @@ void ReadDepth(Input& input, Call& call, DepthFile& file) {
         return;
     }
     RequireMetric(input, call);
-    RowReader(input, call).Read(file);
+    Depth::RowReader(input, call).Read(file);
 }
 
+namespace Depth {
 namespace {
 
 Table TableOfRun(const DepthRun& run, bool field, std::string (*text)(double)) {
@@ -454,13 +457,15 @@ constexpr Command commands[] = {
 
 } // namespace
 
-std::span<const Command> DepthCommands() {
+std::span<const Command> Commands() {
     return commands;
 }
 
-void CheckDepth(Input& input, Call& call) {
+void Check(Input& input, Call& call) {
     DepthFile file;
     ReadDepth(input, call, file);
 }
+
+} // namespace Depth
 
 } // namespace FluidBenchTool

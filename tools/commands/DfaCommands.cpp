@@ -17,6 +17,7 @@ using Orv::FluidBench::Common::Units;
 using Orv::FluidBench::IO::DFAReader;
 using Orv::FluidBench::IO::WellData;
 
+namespace Dfa {
 namespace {
 
 constexpr Option ft{"--ft", "FILE",
@@ -210,11 +211,11 @@ constexpr Command commands[] = {
 
 } // namespace
 
-std::span<const Command> DfaCommands() {
+std::span<const Command> Commands() {
     return commands;
 }
 
-void CheckDfa(Input& input, Call& call) {
+void Check(Input& input, Call& call) {
     if (input.Name().ends_with("FT.txt")) {
         call.Told().Fail(ToolKinds::nothingRead, input.Name(),
                          "Expected the main file of an analysis, found the file of its pressures "
@@ -223,5 +224,7 @@ void CheckDfa(Input& input, Call& call) {
     DFAReader reader;
     ImportOrFail(reader, input, call);
 }
+
+} // namespace Dfa
 
 } // namespace FluidBenchTool

@@ -22,6 +22,7 @@ using Orv::FluidBench::Common::Point;
 using Orv::FluidBench::IO::PhaseEnvelopeReaderWriter;
 using Orv::Text::PathOf;
 
+namespace Envelope {
 namespace {
 
 using Plots = std::vector<CommonPlottingObject>;
@@ -268,12 +269,14 @@ constexpr Command commands[] = {
 
 } // namespace
 
-std::span<const Command> EnvelopeCommands() {
+std::span<const Command> Commands() {
     return commands;
 }
 
-void CheckEnvelope(Input& input, Call& call) {
+void Check(Input& input, Call& call) {
     ReadPlots(input, call);
 }
+
+} // namespace Envelope
 
 } // namespace FluidBenchTool

@@ -25,6 +25,7 @@ using Orv::FluidBench::IO::KValuesExportFileWriter;
 using Orv::FluidBench::IO::KValuesKeywordReader;
 using Orv::FluidBench::Model::KValuesTable;
 
+namespace KValues {
 namespace {
 
 constexpr double noTemperature = -1.0; // what a table without one has
@@ -77,18 +78,20 @@ Tables ReadRows(Input& input, Call& call) {
 }
 
 } // namespace
+} // namespace KValues
 
 std::vector<KValuesTable> ReadKValues(Input& input, Call& call) {
     const Progress progress(call.Told(), "Reading " + input.Name());
     if (HasKeywords(input)) {
-        Tables tables;
+        KValues::Tables tables;
         ReadKeywords<KValuesKeywordReader>(input, call, tables);
         return tables;
     }
     RequireMetric(input, call);
-    return ReadRows(input, call);
+    return KValues::ReadRows(input, call);
 }
 
+namespace KValues {
 namespace {
 
 Tables ReadTables(std::size_t operand, Call& call) {
@@ -346,12 +349,14 @@ constexpr Command commands[] = {
 
 } // namespace
 
-std::span<const Command> KValuesCommands() {
+std::span<const Command> Commands() {
     return commands;
 }
 
-void CheckKValues(Input& input, Call& call) {
+void Check(Input& input, Call& call) {
     ReadKValues(input, call);
 }
+
+} // namespace KValues
 
 } // namespace FluidBenchTool

@@ -12,6 +12,7 @@ namespace FluidBenchTool {
 
 using Orv::FluidBench::IO::MFLFileReader;
 
+namespace Mfl {
 namespace {
 
 void PrintStreams(std::ostream& out, const FluidFile& file, Extent extent) {
@@ -69,6 +70,16 @@ constexpr Command commands[] = {
 
 } // namespace
 
+std::span<const Command> Commands() {
+    return commands;
+}
+
+void Check(Input& input, Call& call) {
+    ReadMfl(input, call);
+}
+
+} // namespace Mfl
+
 FluidFile ReadMfl(Input& input, Call& call) {
     Messages& messages = call.Told();
     const Progress progress(messages, "Reading " + input.Name());
@@ -79,14 +90,6 @@ FluidFile ReadMfl(Input& input, Call& call) {
     FluidFile file;
     messages.TellReport(reader.ReadStreams(file.fluid, file.streams), input.Name(), errors);
     return file;
-}
-
-std::span<const Command> MflCommands() {
-    return commands;
-}
-
-void CheckMfl(Input& input, Call& call) {
-    ReadMfl(input, call);
 }
 
 } // namespace FluidBenchTool

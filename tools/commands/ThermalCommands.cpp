@@ -21,6 +21,7 @@ using Orv::FluidBench::IO::ThermalExportFileWriter;
 using Orv::FluidBench::IO::ThermalKeywordReader;
 using Orv::FluidBench::Model::ThermalExportTable;
 
+namespace Thermal {
 namespace {
 
 using Values = std::vector<double>;
@@ -298,12 +299,14 @@ constexpr Command commands[] = {
 
 } // namespace
 
-std::span<const Command> ThermalCommands() {
+std::span<const Command> Commands() {
     return commands;
 }
 
-void CheckThermal(Input& input, Call& call) {
+void Check(Input& input, Call& call) {
     ReadTable(input, call);
 }
+
+} // namespace Thermal
 
 } // namespace FluidBenchTool
