@@ -603,7 +603,7 @@ TEST(ThermalKeywords, WhatIsMissingTwiceOrTooShort) {
         {head + "KVCR\n2*1 2*2 2*3 2*4 1 /\n" + metric, "6:row-length"},
         {head + "KVCR\n2*1 2*2 2*3 2*4 1000000000*5 /\n" + metric, "6:repeat-count"},
         {"NCOMPS\ntwo /\n" + metric, "2:not-a-number"},
-        {"ECHO\n" + metric, "4:no-table"},
+        {"ECHO\n1 2 /\n" + metric, "5:no-table"},
     };
     for (const Case& each : cases) {
         const Outcome<IO::ThermalKeywordReader, ThermalExportTable> outcome(each.text,
@@ -611,6 +611,9 @@ TEST(ThermalKeywords, WhatIsMissingTwiceOrTooShort) {
         EXPECT_EQ(outcome.told, each.told) << outcome.sentences << each.text;
         EXPECT_EQ(outcome.report.HasErrors(), outcome.result.ComponentNames.empty());
     }
+    const Outcome<IO::ThermalKeywordReader, ThermalExportTable> stray(
+        "7 /\n" + head + " 3*\n1 2 /\nZI\n1 0 /\n" + metric + "9 9\nECHO\n9 /\n", std::nullopt);
+    EXPECT_EQ(stray.told.substr(0, 48), "1:stray-numbers 6:stray-numbers 12:stray-numbers");
     const Outcome<IO::ThermalKeywordReader, ThermalExportTable> typed(
         head + "MW\n17 2* /\nSPECHG\n2*3 /\nSPECHH\n0.01 1* /\n" + metric, std::nullopt);
     EXPECT_EQ(typed.told.substr(0, 14), "5:second-time ");

@@ -123,6 +123,7 @@ inline constexpr DiagnosticKind otherUnits       {"keywords.other-units", Error}
 inline constexpr DiagnosticKind secondUnits      {"keywords.second-units", Error};
 inline constexpr DiagnosticKind unitsContradicted{"keywords.units-contradicted", Error};
 inline constexpr DiagnosticKind notTaken         {"keywords.not-taken", Warning};
+inline constexpr DiagnosticKind strayNumbers     {"keywords.stray-numbers", Warning};
 inline constexpr DiagnosticKind skipNotClosed    {"keywords.skip-not-closed", Warning};
 inline constexpr DiagnosticKind defaultIsZero    {"keywords.default-is-zero", Warning};
 inline constexpr DiagnosticKind noRows           {"keywords.no-rows", Warning};

@@ -116,7 +116,7 @@ bool KeywordWalker::ReadWord(const Token& first) {
             ofNumbers_[comment_->isField ? 1 : 0] = comment_;
         }
         comment_.reset();
-        isBehindWanted_ = true;
+        isBehindWanted_ = isOutsideData_ = true;
         return true;
     }
     comment_.reset();
@@ -124,6 +124,13 @@ bool KeywordWalker::ReadWord(const Token& first) {
 }
 
 void KeywordWalker::PassOtherText(const Token& first) {
+    // Behind a keyword that isn't known they are its data.
+    if (isOutsideData_ && IsMeantAsNumber(first)) {
+        Tell(KeywordKinds::strayNumbers, PositionLine(),
+             Expected("a keyword ahead of any numbers",
+                      Describe(first) + ", which belongs to none and isn't read"));
+    }
+    isOutsideData_ = isOutsideData_ && first.kind == Kind::Slash;
     isBehindWanted_ = false;
     comment_.reset();
     std::string meant;
@@ -201,7 +208,7 @@ void KeywordWalker::ReadUnits() {
              "a second one; the first is in " + Describe(record_->place));
     }
     record_ = units;
-    isBehindWanted_ = true;
+    isBehindWanted_ = isOutsideData_ = true;
 }
 
 void KeywordWalker::ReadInclude() {

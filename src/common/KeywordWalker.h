@@ -190,6 +190,7 @@ private:
     std::size_t longestNumber_ = 0;
     bool isInRecord_ = false;
     bool isBehindWanted_ = true; // nothing but wanted keywords, their data and comments came before
+    bool isOutsideData_ = true;  // the same, but for slashes: what comes is data of no keyword
     bool hasEnded_ = false;      // by the keyword
     bool hasContent_ = false;
 
