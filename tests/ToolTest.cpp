@@ -315,6 +315,10 @@ TEST_F(ToolTest, TellsWhichRowOfDataIsWrong) {
                           "'record', found 'record'."},
         {"components,\"C1\n", "1: error: Expected a quote that is closed on its line, found "
                               "'components,\"C1'."},
+        {"components,C1,C1\n", "1: error: Expected a name for each component alone, found 'C1' "
+                               "twice."},
+        {"components,C1,\n", "1: error: Expected a name for each component alone, found an empty "
+                             "cell."},
         {"temperature,300\n", " error: Expected a row 'components', found none that is whole."},
     };
     for (const auto& [text, message] : cases) {

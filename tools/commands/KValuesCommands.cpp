@@ -51,7 +51,7 @@ Tables ReadRows(Input& input, Call& call) {
                 tables.back().Temperature = *std::exchange(temperature, {});
             }
         } else if (rows.Name() == "components") {
-            tables.emplace_back(rows.Texts());
+            tables.emplace_back(rows.Names());
             tables.back().Temperature = std::exchange(temperature, {}).value_or(noTemperature);
         } else if (rows.Name() == "record" && !tables.empty()) {
             if (temperature) {

@@ -148,7 +148,7 @@ void RowReader::Take() {
         return;
     }
     if (name == "names") {
-        table_.ComponentNames = rows_.Texts();
+        table_.ComponentNames = rows_.Names();
         table_.ComponentCount = table_.ComponentNames.size();
         return;
     }

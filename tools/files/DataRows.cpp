@@ -5,6 +5,8 @@
 #include "NumberText.h"
 #include "Quote.h"
 
+#include <unordered_set>
+
 namespace FluidBenchTool {
 
 using Orv::Text::Quote;
@@ -63,6 +65,18 @@ std::vector<double> DataRows::Numbers() const {
         numbers.push_back(Orv::Text::ParseAsAtof(cells_[i]));
     }
     return numbers;
+}
+
+std::vector<std::string> DataRows::Names() const {
+    std::vector<std::string> names = Texts();
+    std::unordered_set<std::string_view> known;
+    for (const std::string& name : names) {
+        if (name.empty() || !known.insert(name).second) {
+            Fail("a name for each component alone",
+                 name.empty() ? "an empty cell" : Quote(name) + " twice");
+        }
+    }
+    return names;
 }
 
 void DataRows::Fail(const std::string& expected, const std::string& found) const {

@@ -32,6 +32,8 @@ public:
     const std::string& Name() const { return cells_.front(); }
     std::vector<std::string> Texts() const { return {cells_.begin() + 1, cells_.end()}; }
     std::vector<double> Numbers() const;
+    /// The texts as names of components: each is there, and once.
+    std::vector<std::string> Names() const;
 
     /// Tells of an error in the row.
     [[noreturn]] void Fail(const std::string& expected, const std::string& found) const;
