@@ -1,7 +1,6 @@
 // MFL files: a text is refused with messages, and nothing changes, or gives a whole fluid.
-#include "Fuzz.h"
+#include "DeckOracle.h"
 #include "io/MFLFileReader.h"
-#include "io/PVOFileWriter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,8 +11,6 @@ namespace {
 using namespace FluidBenchFuzz;
 using Orv::FluidBench::Common::ErrorReport;
 using Orv::FluidBench::IO::MFLFileReader;
-using Orv::FluidBench::IO::PVOFileWriter;
-using Orv::FluidBench::Model::CompositionalFluid;
 
 void RequireWhole(const CompositionalFluid& fluid,
                   const std::vector<std::vector<double>>& streams) {
@@ -42,9 +39,12 @@ void FluidBenchFuzz::TestOneInput(std::string_view input) {
     reader.SetMFLFileName(FileWith("input.mfl", input));
     CompositionalFluid fluid("as it was");
     std::vector<std::vector<double>> streams{{1.0}};
+    Told told;
+    reader.SetDiagnosticSink(told.Sink());
     const ErrorReport report = reader.ReadStreams(fluid, streams);
-    Require(report.HasErrors() == !report.GetMessages().empty(),
-            "Messages and failure go together");
+    Require(report.HasErrors() == !report.GetMessages().empty() &&
+                report.HasErrors() == told.HasErrors(),
+            "Messages, diagnostics and failure go together");
     if (report.HasErrors()) {
         Require(fluid.GetName() == "as it was" && fluid.NumberOfComponents() == 0 &&
                     streams.size() == 1,
@@ -52,7 +52,5 @@ void FluidBenchFuzz::TestOneInput(std::string_view input) {
         return;
     }
     RequireWhole(fluid, streams);
-    PVOFileWriter writer;
-    Require(!writer.ExportToPVO(fluid, PathOf("written"), 350.0, true, true).HasErrors(),
-            "A fluid can be written");
+    RequireDeckComesBack(fluid);
 }

@@ -29,13 +29,50 @@ void RequireSame(double ours, double theirs, const char* what) {
     }
 }
 
+// Whatever takes a number takes as many characters as `std::strtod`.
+void RequireTaken(const std::string& text, std::string_view rest, const char* what) {
+    char* end = nullptr;
+    std::strtod(text.c_str(), &end);
+    Require(text.size() - rest.size() == static_cast<std::size_t>(end - text.c_str()),
+            std::string(what) + " takes the number and nothing else of '" + text + "'");
+}
+
+// "12.5e3" and the like from the first character to the last.
+void ParseWhole(const std::string& text) {
+    char* end = nullptr;
+    const double theirs = std::strtod(text.c_str(), &end);
+    const bool isDecimal = text.find_first_not_of("0123456789.eE+-") == std::string::npos;
+    if (!text.empty() && isDecimal) {
+        double ours = 0.0;
+        const std::string mantissa = text.substr(0, text.find_first_of("eE"));
+        const bool isTooSmall =
+            theirs == 0.0 && mantissa.find_first_of("123456789") != std::string::npos;
+        const bool isNumber = *end == '\0' && std::isfinite(theirs) && !isTooSmall;
+        Require(ParseNumber(text, ours) == isNumber, "ParseNumber takes what strtod takes");
+        RequireSame(isNumber ? ours : theirs, theirs, "ParseNumber");
+        double ahead = 0.0;
+        const char* const behind = ReadNumberAhead(text.data(), text.data() + text.size(), ahead);
+        if (behind != nullptr) {
+            Require(behind == end, "ReadNumberAhead ends where strtod does");
+            RequireSame(ahead, theirs, "ReadNumberAhead");
+        }
+    }
+}
+
 void Parse(const std::string& text) {
+    std::string_view rest = text;
+    RequireSame(TakeAsAtof(rest), std::atof(text.c_str()), "TakeAsAtof");
+    RequireTaken(text, rest, "TakeAsAtof");
     RequireSame(ParseAsAtof(text), std::atof(text.c_str()), "ParseAsAtof");
+    ParseWhole(text);
 
     // Without the letters of other notations the C library knows decimal numbers alone.
     const std::size_t end = text.find_first_not_of(" \t\n\v\f\r0123456789.eE+-");
     const std::string decimal = text.substr(0, end);
     RequireSame(ParseLeadingDecimal(text), std::atof(decimal.c_str()), "ParseLeadingDecimal");
+    rest = decimal;
+    TakeLeadingDecimal(rest);
+    RequireTaken(decimal, rest, "TakeLeadingDecimal");
 
     std::istringstream stream(text);
     double extracted = 0.0;

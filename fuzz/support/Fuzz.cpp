@@ -1,5 +1,6 @@
 #include "Fuzz.h"
 
+#include <algorithm>
 #include <fstream>
 #include <random>
 #include <sstream>
@@ -72,6 +73,19 @@ std::string ReadFile(const std::string& path) {
 
 std::string ProjectFile(const std::string& path) {
     return ReadFile(std::string(FLUIDBENCH_PROJECT_FOLDER) + "/" + path);
+}
+
+std::vector<std::string> ProjectFiles(const std::string& folder, std::string_view ending) {
+    std::vector<std::string> paths;
+    for (const auto& entry : std::filesystem::directory_iterator(
+             std::string(FLUIDBENCH_PROJECT_FOLDER) + "/" + folder)) {
+        if (entry.is_regular_file() && entry.path().filename().string().ends_with(ending)) {
+            paths.push_back(entry.path().string());
+        }
+    }
+    std::ranges::sort(paths);
+    std::ranges::transform(paths, paths.begin(), ReadFile);
+    return paths;
 }
 
 } // namespace FluidBenchFuzz

@@ -27,6 +27,8 @@ void Require(bool holds, const std::string& promise);
 
 /// The bytes of a file of the project, by its path in the project.
 std::string ProjectFile(const std::string& path);
+/// All files of a folder of the project whose names end so, in the order of their names.
+std::vector<std::string> ProjectFiles(const std::string& folder, std::string_view ending);
 
 /// Path of a file that holds the input or takes an output. It lies in a folder of this process, in
 /// memory where the system offers that, which goes away when the process ends in order.
