@@ -161,9 +161,10 @@ void PlotBlackOil(Call& call) {
     chart.legend.push_back({{colour, otherWidth, "5 3"}, false, "undersaturated"});
     constexpr double rowHeight = 290.0;
     constexpr double aroundRows = 110.0;
-    const auto rows = static_cast<double>((chart.panels.size() + 2) / 3);
+    constexpr std::size_t columns = 3;
+    const std::size_t rows = (chart.panels.size() + columns - 1) / columns;
     chart.width = 1200.0;
-    chart.height = aroundRows + rows * rowHeight;
+    chart.height = aroundRows + static_cast<double>(rows) * rowHeight;
     WritePicture(call, call.Asked().Operands().back(), std::move(chart));
 }
 
@@ -221,7 +222,13 @@ void PlotKValues(Call& call) {
         chart.legend.push_back({{ColourOf(i), 2.0}, false, components[i]});
     }
     if (tables.size() > 1) {
-        chart.legend.insert(chart.legend.end(), tables.begin(), tables.end());
+        const bool isOneFile = call.Asked().Operands().size() == 2; // named below the title
+        for (LegendEntry& table : tables) {
+            if (isOneFile && !table.secondLine.empty()) {
+                table.text = std::exchange(table.secondLine, {});
+            }
+            chart.legend.push_back(std::move(table));
+        }
     } else if (!tables.front().secondLine.empty()) {
         chart.subtitle += ", at " + tables.front().secondLine;
     }
