@@ -315,6 +315,18 @@ TEST_F(BlackOil, TellsOfAFileThatFailsAndOfTwentyOfOneCode) {
     EXPECT_EQ(diagnosed.All().back().code, "file.read-failed");
     diagnosed.Take();
 
+    // What never ends, and a line that is as good as endless.
+    writer.GetTableFromCSVFile("/dev/zero");
+    EXPECT_EQ(diagnosed.Take(), "0:cant-open");
+    constexpr std::size_t longest = std::size_t{1} << 20;
+    for (const bool isTooLong : {false, true}) {
+        std::istringstream longLine("ODEN,1\nPVTO,\n,1,2,3,4" + std::string(longest - 8, ' ') +
+                                    (isTooLong ? " " : "") + "\r\n,2,3,4,5\n");
+        EXPECT_EQ(Summary(writer.GetTableFromCSVFile(longLine)),
+                  isTooLong ? "1 0 0 oil gas" : "1 0 0 oil 2 3; gas");
+        EXPECT_EQ(diagnosed.Take().ends_with("3:line-too-long"), isTooLong);
+    }
+
     writer.GetTableFromCSVFile(folder / "missing");
     EXPECT_EQ(diagnosed.All().front().sentence,
               "Expected a file to read, found no file of that name.");

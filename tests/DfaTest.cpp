@@ -225,6 +225,10 @@ TEST_F(DfaTest, RefusesFilesThatFail) {
         EXPECT_EQ(diagnosed.Take(), "2:read-failed");
         EXPECT_EQ(Depths(), "A: 1");
     }
+    std::istringstream longLine(main + std::string(2'000'000, ' '));
+    std::istringstream good(pressures);
+    EXPECT_FALSE(reader.Import(longLine, good));
+    EXPECT_EQ(diagnosed.Take(), "4:line-too-long");
     EXPECT_FALSE(reader.Import(folder / "missing_DFA.txt"));
     EXPECT_EQ(diagnosed.All().at(1).file, folder / "missing_FT.txt");
     EXPECT_EQ(diagnosed.Take(), "0:cant-open 0:cant-open");

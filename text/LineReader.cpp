@@ -4,8 +4,8 @@
 
 namespace Orv::Text {
 
-LineReader::LineReader(std::istream& stream, std::size_t longestLine, BehindCut behindCut)
-    : input_(stream), longestLine_(longestLine), behindCut_(behindCut) {}
+LineReader::LineReader(std::istream& stream, std::size_t longestLine, LongLine longLine)
+    : input_(stream), longestLine_(longestLine), longLine_(longLine) {}
 
 bool LineReader::Next(std::string_view& line) {
     if (endsInsideLine_ && !isDone_) {
@@ -49,10 +49,10 @@ bool LineReader::Give(std::string_view& line, std::string_view text, std::size_t
     isCut_ = text.size() > longestLine_;
     if (isCut_) {
         text = text.substr(0, longestLine_);
-        isDone_ = isDone_ || behindCut_ == BehindCut::Nothing;
+        isDone_ = isDone_ || longLine_ != LongLine::Cut;
     }
     line = text;
-    return true;
+    return !isCut_ || longLine_ != LongLine::Ends;
 }
 
 void LineReader::PassRestOfLine() {

@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <istream>
-#include <limits>
 #include <string_view>
 
 namespace Orv::Text {
@@ -22,15 +21,16 @@ namespace Orv::Text {
 /// reads ahead of what it gives. One thread at a time.
 class LineReader {
 public:
-    static constexpr std::size_t anyLength = std::numeric_limits<std::size_t>::max() - 2;
+    /// Far more than a line of any format has: a file with a longer one is another file.
+    static constexpr std::size_t longestOfAll = std::size_t{1} << 20;
 
-    /// What follows a line that is cut because it is too long.
-    enum class BehindCut { Nothing, NextLine };
+    /// What becomes of a line that is too long: it isn't given, and none behind it; it is cut, and
+    /// is the last one; or it is cut, and the next one follows.
+    enum class LongLine { Ends, CutAndEnds, Cut };
 
-    /// A line of more than `longestLine` characters is cut there, and is the last one unless told
-    /// otherwise.
-    explicit LineReader(std::istream& stream, std::size_t longestLine = anyLength,
-                        BehindCut behindCut = BehindCut::Nothing);
+    /// Of a line of more than `longestLine` characters.
+    explicit LineReader(std::istream& stream, std::size_t longestLine = longestOfAll,
+                        LongLine longLine = LongLine::Ends);
 
     /// Gives the next line without its line end, or false when there is none. The line stays valid
     /// until the next call.
@@ -38,7 +38,7 @@ public:
 
     /// The number of the line that was given last, counted from 1.
     std::uint64_t Number() const noexcept { return number_; }
-    /// Whether that line was cut.
+    /// Whether that line was too long. One that isn't given counts here, and by its number.
     bool IsCut() const noexcept { return isCut_; }
 
     /// Whether a read failed: there were more lines.
@@ -53,7 +53,7 @@ private:
 
     TextInput input_;
     std::size_t longestLine_;
-    BehindCut behindCut_;
+    LongLine longLine_;
     std::uint64_t number_ = 0;
     bool isCut_ = false;
     bool endsInsideLine_ = false; // behind what was given there is the rest of its line

@@ -29,9 +29,9 @@ bool IsRegularFile(const std::string& fileName) {
 std::ifstream OpenForReading(const std::string& fileName) {
     std::ifstream file;
     file.imbue(std::locale::classic());
-    // Some systems open a folder like a file and fail only when it is read.
-    std::error_code error;
-    if (!std::filesystem::is_directory(PathOf(fileName), error)) {
+    // Some systems open a folder like a file and fail only when it is read; a device may never end,
+    // and a pipe may never begin.
+    if (IsRegularFile(fileName)) {
         file.open(PathOf(fileName), std::ios_base::in | std::ios_base::binary);
     }
     return file;

@@ -19,6 +19,7 @@ using enum FluidBench::IO::Severity;
 // Of all readers.
 inline constexpr DiagnosticKind cantOpen         {"file.cant-open", Error};
 inline constexpr DiagnosticKind readFailed       {"file.read-failed", Error};
+inline constexpr DiagnosticKind lineTooLong      {"file.line-too-long", Error};
 inline constexpr DiagnosticKind utf16            {"file.utf-16", Error};
 inline constexpr DiagnosticKind carriageReturns  {"file.carriage-returns", Error};
 

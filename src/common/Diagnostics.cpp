@@ -58,4 +58,20 @@ void TellReadFailed(Diagnostics& diagnostics, std::uint64_t line) {
                      "this line wasn't read.");
 }
 
+bool TellHowEnded(Diagnostics& diagnostics, const Text::LineReader& lines) {
+    if (lines.HasFailed()) {
+        TellReadFailed(diagnostics, lines.Number());
+        return false;
+    }
+    if (lines.IsCut()) {
+        diagnostics.Tell(Kinds::lineTooLong, lines.Number(),
+                         "Expected a line of at most " +
+                             std::to_string(Text::LineReader::longestOfAll) +
+                             " characters, found a longer one: it isn't read, and nothing behind "
+                             "it is.");
+        return false;
+    }
+    return true;
+}
+
 } // namespace Orv::FluidBench::Impl::IO

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "DiagnosticKinds.h"
+#include "LineReader.h"
 #include "TextInput.h"
 #include "io/Diagnostics.h"
 
@@ -56,5 +57,8 @@ void TellOddText(Diagnostics& diagnostics, Text::TextKind kind);
 
 /// Tells that reading failed behind that line.
 void TellReadFailed(Diagnostics& diagnostics, std::uint64_t line);
+
+/// Tells why there are no more lines, unless the text has no more; tells whether it has.
+bool TellHowEnded(Diagnostics& diagnostics, const Text::LineReader& lines);
 
 } // namespace Orv::FluidBench::Impl::IO

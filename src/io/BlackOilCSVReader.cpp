@@ -468,9 +468,7 @@ BlackOilTable CsvReader::Read() {
         }
         ReadLine(line, table);
     }
-    if (lines_.HasFailed()) {
-        TellReadFailed(diagnostics_, lines_.Number());
-    } else {
+    if (TellHowEnded(diagnostics_, lines_)) {
         watch_.EndFile();
     }
     return table;

@@ -254,8 +254,7 @@ std::optional<DfaExport> Parser::Read() {
             TakeRow(line);
         }
     }
-    if (lines_.HasFailed()) {
-        TellReadFailed(diagnostics_, lines_.Number());
+    if (!TellHowEnded(diagnostics_, lines_)) {
         return std::nullopt;
     }
     return HasHeader() ? std::optional(std::move(result_)) : std::nullopt;

@@ -5,7 +5,8 @@
 namespace Orv::FluidBench::Impl::IO {
 
 EnvelopeLines::EnvelopeLines(std::istream& text, Diagnostics& diagnostics)
-    : diagnostics_(diagnostics), reader_(text, longestLine) {
+    : diagnostics_(diagnostics),
+      reader_(text, longestLine, Text::LineReader::LongLine::CutAndEnds) {
     TellOddText(diagnostics_, reader_.Kind());
     std::string_view line;
     while (headSize_ < head_.size() && ReadLine(line)) {

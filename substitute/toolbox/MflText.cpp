@@ -98,7 +98,6 @@ constexpr std::size_t mostComponents = 1000;
 // file.
 constexpr std::size_t mostFailures = 1000;
 // No line that means something is longer, and a line is held in memory.
-constexpr std::size_t longestLine = std::size_t{1} << 20;
 
 const auto* FindWord(const auto& meanings, std::string_view word) {
     using Entry = std::remove_reference_t<decltype(*std::begin(meanings))>;
@@ -204,7 +203,7 @@ ErrorReport Reader::Read() {
              "expected a file to read, found " + Text::WhyNotReadable(fileName_));
         return std::move(report_);
     }
-    LineReader lines(file, longestLine, LineReader::BehindCut::NextLine);
+    LineReader lines(file, LineReader::longestOfAll, LineReader::LongLine::Cut);
     RefuseOddText(lines.Kind());
     ReadLines(lines);
     return std::move(report_);
@@ -219,7 +218,7 @@ void Reader::ReadLines(LineReader& lines) {
         line_ = lines.Number();
         if (lines.IsCut()) {
             Fail(Kind::LineTooLong, "expected a line, or a comment, of at most " +
-                                        std::to_string(longestLine) +
+                                        std::to_string(LineReader::longestOfAll) +
                                         " characters, found a longer one");
         } else if (Split(line, words) && !words.empty()) {
             ReadLine(words);

@@ -32,6 +32,13 @@ bool DataRows::Next() {
                        "Expected to read on, found a failure of the file or its disk.",
                        lines_->reader.Number());
     }
+    if (lines_->reader.IsCut()) {
+        messages_.Fail(ToolKinds::badRow, file_,
+                       "Expected a row of at most " +
+                           std::to_string(Orv::Text::LineReader::longestOfAll) +
+                           " characters, found a longer one.",
+                       lines_->reader.Number());
+    }
     return false;
 }
 

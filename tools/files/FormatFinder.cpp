@@ -84,7 +84,7 @@ FoundFormat FindFormat(std::istream& text) {
     constexpr auto holds = [](std::string_view line, std::string_view word) {
         return line.find(word) != std::string_view::npos;
     };
-    Orv::Text::LineReader lines(text, longestLine, Orv::Text::LineReader::BehindCut::NextLine);
+    Orv::Text::LineReader lines(text, longestLine, Orv::Text::LineReader::LongLine::Cut);
     std::size_t rank = std::size(signs);
     bool hasFlash = false;
     bool isTitle = false; // the line below the keyword, which may be anything

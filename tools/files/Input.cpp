@@ -49,7 +49,7 @@ Input::Input(const std::string& name, Messages& messages) : messages_(messages),
     }
     fileName_ = name;
     errno = 0;
-    if (!Orv::Text::IsRegularFile(name) || !Orv::Text::OpenForReading(name).is_open()) {
+    if (!Orv::Text::OpenForReading(name).is_open()) {
         messages_.Fail(ToolKinds::cantRead, name,
                        "Expected a file to read, found " + WhatItIs(name) + ".");
     }
@@ -93,6 +93,7 @@ void Input::Keep() {
 
 std::istream& Input::Text() {
     const std::string name = kept_.IsOpen() ? NameOf(kept_) : fileName_;
+    text_.reset(); // one file at a time
     auto file = std::make_unique<std::ifstream>(Orv::Text::OpenForReading(name));
     if (!file->is_open()) {
         messages_.Fail(ToolKinds::cantRead, name_,

@@ -198,7 +198,7 @@ ErrorReport PVOImporter::ImportDeck(CompositionalFluid& fluid, bool characterise
 // A deck is read more than once, which a pipe doesn't allow. False for a pipe or a device.
 bool PVOImporter::RequireFile(Diagnostics& diagnostics) const {
     errno = 0;
-    if (IsRegularFile(fileName) && OpenForReading(fileName).is_open()) {
+    if (OpenForReading(fileName).is_open()) {
         return true;
     }
     const std::string found = Text::WhyNotReadable(fileName);
