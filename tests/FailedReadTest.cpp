@@ -1,6 +1,7 @@
 // Files of every format whose disk fails while they are read: nobody takes that for their end.
 #include "Diagnosed.h"
 #include "FailingRead.h"
+#include "PublicOperations.h"
 #include "TestSupport.h"
 #include "io/BlackOilExportFileWriter.h"
 #include "io/BlackOilKeywordReader.h"
@@ -108,5 +109,28 @@ TEST(FailedReads, AreNotTakenForTheEnd) {
             EXPECT_FALSE(each.isRead(file)) << each.format << " at " << byte;
             FailReads("", 0);
         }
+    }
+}
+
+// Whichever call fails: what is said to be read is all of the file, and the next time it is.
+TEST(FailedReads, LoseNothingInSilence) {
+    for (const ReadOperation& each : ReadOperations()) {
+        const Reading whole = each.make();
+        ASSERT_TRUE(whole.read()) << each.name;
+        const Reading reading = each.make();
+        for (int call = 1, calls = call; calls >= call; ++call) {
+            FailCall("", 0);
+            FailCall("examples/data/", call);
+            bool isRead = false;
+            try {
+                isRead = reading.read();
+            } catch (const std::exception&) { // as the reader says
+            }
+            calls = FailCall("", 0);
+            EXPECT_TRUE(!isRead || reading.text() == whole.text()) << each.name << ' ' << call;
+            EXPECT_TRUE(isRead || calls >= call) << each.name << ' ' << call;
+        }
+        EXPECT_TRUE(reading.read()) << each.name;
+        EXPECT_EQ(reading.text(), whole.text()) << each.name;
     }
 }

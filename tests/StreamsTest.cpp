@@ -4,6 +4,7 @@
 
 #include <iomanip>
 #include <sstream>
+#include <stdexcept>
 
 using namespace FluidBenchTest;
 
@@ -26,6 +27,45 @@ protected:
 
 private:
     std::size_t room_;
+};
+
+// Fails at one call, whichever it is, by its result or by throwing.
+class FaultyBuffer : public std::streambuf {
+public:
+    FaultyBuffer(int failingCall, bool throws) : failingCall_(failingCall), throws_(throws) {}
+    std::string text;
+    int calls = 0;
+
+protected:
+    std::streamsize xsputn(const char* data, std::streamsize count) override {
+        if (Fails()) {
+            return 0;
+        }
+        text.append(data, static_cast<std::size_t>(count));
+        return count;
+    }
+    int_type overflow(int_type c) override {
+        if (Fails()) {
+            return traits_type::eof();
+        }
+        text += traits_type::to_char_type(c);
+        return c;
+    }
+    int sync() override { return Fails() ? -1 : 0; }
+    pos_type seekoff(off_type, std::ios_base::seekdir, std::ios_base::openmode) override {
+        return Fails() ? pos_type(off_type(-1)) : pos_type(static_cast<off_type>(text.size()));
+    }
+
+private:
+    bool Fails() {
+        if (++calls == failingCall_ && throws_) {
+            throw std::runtime_error("The disk is gone.");
+        }
+        return calls == failingCall_;
+    }
+
+    int failingCall_;
+    bool throws_;
 };
 
 } // namespace
@@ -71,6 +111,27 @@ TEST(Streams, AFullOneSaysSoAndKeepsWhatHadRoom) {
             throwing.width(9);
             EXPECT_THROW(each.toStream(throwing), std::ios_base::failure) << each.name;
             EXPECT_EQ(throwing.width(), 9) << each.name;
+        }
+    }
+}
+
+TEST(Streams, FailWithAnyCallOfTheirBuffer) {
+    for (const WriteOperation& each : WriteOperations()) {
+        std::ostringstream whole;
+        each.toStream(whole);
+        for (const bool throws : {false, true}) {
+            for (int call = 1;; ++call) {
+                FaultyBuffer buffer(call, throws);
+                std::ostream out(&buffer);
+                each.toStream(out);
+                if (buffer.calls < call) {
+                    EXPECT_TRUE(out.good());
+                    EXPECT_EQ(buffer.text, whole.str());
+                    break;
+                }
+                ASSERT_TRUE(out.fail()) << each.name << ' ' << call;
+                ASSERT_TRUE(whole.str().starts_with(buffer.text)) << each.name << ' ' << call;
+            }
         }
     }
 }
