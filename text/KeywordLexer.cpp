@@ -240,7 +240,7 @@ Token KeywordLexer::ReadWord(bool isAtHeadOfLine) {
 }
 
 Token KeywordLexer::ReadPath(bool isAtHeadOfLine) {
-    std::string_view ahead = AtLeastAhead(longestItem + 1);
+    const std::string_view ahead = AtLeastAhead(longestItem + 1);
     std::size_t length = 0;
     while (length < std::min(ahead.size(), longestItem + 1) && !IsBlank(ahead[length]) &&
            ahead[length] != '\n') {

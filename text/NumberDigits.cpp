@@ -43,7 +43,7 @@ namespace Orv::Text {
 
 namespace {
 
-__extension__ typedef unsigned __int128 Uint128;
+__extension__ using Uint128 = unsigned __int128;
 
 // Powers of ten, or of five, as far as 64 bits reach.
 template <std::uint64_t base, std::size_t count>

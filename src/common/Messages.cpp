@@ -9,9 +9,7 @@ namespace Orv::FluidBench::Common {
 template <typename Value>
 Message::Message(pvtEnumErrorType type, pvtEnumErrorCode code, std::int32_t id, Value value)
     : errorType(type), errorCode(code), messageId(id) {
-    std::ostringstream stream;
-    stream << value;
-    parameters.push_back(stream.str());
+    parameters.push_back((std::ostringstream() << value).str());
     formMessage();
 }
 

@@ -262,6 +262,7 @@ void DFAReader::SetDiagnosticSink(DiagnosticSink sink) {
     diagnosticSink = std::move(sink);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): callers of the interface pass a copy
 bool DFAReader::Import(std::string fileName) {
     const std::string pressuresName = PressureFileOf(fileName);
     Diagnostics ofMain(diagnosticSink, fileName);

@@ -129,6 +129,7 @@ void WriteComposition(std::ostream& out, double depth, const std::vector<double>
 std::vector<double> FractionsOf(const CompositionalFluid& fluid,
                                 const std::vector<std::string>& names) {
     std::vector<double> fractions;
+    fractions.reserve(names.size());
     for (const std::string& name : names) {
         fractions.push_back(fluid.HasComponentWithGlobalName(name)
                                 ? fluid.GetComponentFractionByGlobalName(name)

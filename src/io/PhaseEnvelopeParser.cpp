@@ -38,7 +38,8 @@ bool HoldsHeading(std::string_view line, std::string_view heading) {
     return heading == hydrateTypeI ? HoldsHydrateTypeI(line) : Holds(line, heading);
 }
 
-// The columns go with the line.
+// The columns go with the line; the rest of it stays.
+// NOLINTBEGIN(bugprone-use-after-move)
 Line ToLine(PTline&& line) {
     const LineKind& kind = KindOf(line);
     std::vector<double> temperatures = std::move(line).GetTemperatures();
@@ -49,6 +50,7 @@ Line ToLine(PTline&& line) {
     return {"",         std::move(temperatures),      std::move(pressures), lineType,
             kind.phase, line.GetQualityLineFraction()};
 }
+// NOLINTEND(bugprone-use-after-move)
 
 } // namespace
 

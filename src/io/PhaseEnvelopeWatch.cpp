@@ -204,7 +204,7 @@ void PhaseEnvelopeWatch::Row() {
 
 // Whether the reader takes a number from the cell.
 bool PhaseEnvelopeWatch::Cell(std::string_view cell, std::string_view column) {
-    const std::size_t begin =
+    const auto begin =
         static_cast<std::size_t>(std::ranges::find_if(cell, BeginsNumber) - cell.begin());
     const bool hasNumber = begin < cell.size();
     const CellContent content = LookAtCell(cell);

@@ -86,7 +86,9 @@ AxisScale RoundScale(double least, double most, int intervals) {
     const double last = std::ceil(most / half - narrowest);
     scale.low = first * half;
     scale.high = last * half;
-    for (double multiple = first; multiple <= last; ++multiple) {
+    const auto halves = static_cast<int>(last - first);
+    for (int i = 0; i <= halves; ++i) {
+        const double multiple = first + i;
         const bool isMinor = std::fmod(multiple, 2.0) != 0.0;
         (isMinor ? scale.minorTicks : scale.ticks).push_back(multiple * half + 0.0); // not -0
     }

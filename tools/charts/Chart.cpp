@@ -105,10 +105,10 @@ double DrawPanels(SvgPicture& picture, const Chart& chart, const Box& area) {
     double left = area.left;
     for (std::size_t i = 0; i < chart.panels.size(); ++i) {
         const auto column = static_cast<double>(i % columns);
-        const auto row = static_cast<double>(i / columns);
+        const std::size_t row = i / columns;
         const double titleHeight = chart.panels[i].title.empty() ? 0.0 : panelTitleHeight;
         const double begin = area.left + column * width;
-        const double above = area.top + row * height;
+        const double above = area.top + static_cast<double>(row) * height;
         const double axis = DrawPanel(picture, chart.panels[i],
                                       {begin, above + titleHeight,
                                        begin + width - (columns > 1 ? 14.0 : 0.0), above + height});

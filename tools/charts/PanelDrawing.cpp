@@ -326,7 +326,7 @@ std::string Shortened(const std::string& text, double width, double size) {
 double DrawPanel(SvgPicture& picture, const Panel& panel, const Box& box) {
     constexpr double xPixelsPerStep = 90.0;
     constexpr double titleDistance = 8.0;
-    Box frame{box.left + usualLeft, box.top, box.right, box.bottom - usualBottom};
+    const Box frame{box.left + usualLeft, box.top, box.right, box.bottom - usualBottom};
     const double yPixelsPerStep = frame.Height() < smallFrame ? 50.0 : 75.0;
     Range x;
     Range y;

@@ -291,6 +291,7 @@ void WriteStages(JsonWriter& json, const DepthRun& run) {
         json.Add("saturationPressure", stage.Results->SaturationPressure.GetValue());
         json.Add("gasOilRatio", stage.Results->GasOilRatio.GetValue());
         std::vector<double> fractions;
+        fractions.reserve(run.components.size());
         for (const std::string& component : run.components) {
             fractions.push_back(stage.Fluid.GetComponentFraction(component));
         }

@@ -137,6 +137,7 @@ void PrintStations(std::ostream& out, const std::vector<WellData>& wells, bool f
     Cells headings = Headings(field);
     headings.insert(headings.begin(), "well");
     std::vector<Table> tables;
+    tables.reserve(wells.size());
     for (const WellData& well : wells) {
         tables.push_back({{}, well.depths.size(), [&well, field](std::uint64_t row) {
                               Cells cells = RowOf(well, row, field, DataText, "");

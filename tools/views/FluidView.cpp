@@ -124,7 +124,7 @@ std::string Heading(const Property& property, bool field) {
 // A name as a table has room for it.
 std::string Cut(const std::string& name, Extent extent) {
     constexpr std::size_t longest = 24;
-    const std::string shown = Shown(name);
+    std::string shown = Shown(name);
     if (extent == Extent::All || ShownWidth(shown) <= longest) {
         return shown;
     }
@@ -196,13 +196,14 @@ std::vector<Coefficient> CoefficientsOf(const CompositionalFluid& fluid,
 // Keeps so many coefficients, the largest ones, in their order.
 void KeepLargest(std::vector<Coefficient>& coefficients, std::size_t count) {
     std::vector<double> sizes;
+    sizes.reserve(coefficients.size());
     for (const Coefficient& coefficient : coefficients) {
         sizes.push_back(std::abs(coefficient.value));
     }
     std::ranges::nth_element(sizes, sizes.begin() + static_cast<std::ptrdiff_t>(count - 1),
                              std::greater<>());
     const double least = sizes[count - 1];
-    std::size_t larger = static_cast<std::size_t>(std::ranges::count_if(
+    const auto larger = static_cast<std::size_t>(std::ranges::count_if(
         coefficients, [least](const Coefficient& c) { return std::abs(c.value) > least; }));
     std::size_t asLarge = count - larger;
     std::erase_if(coefficients, [least, &asLarge](const Coefficient& c) {

@@ -31,7 +31,7 @@ Progress::Progress(Messages& messages, const std::string& work) {
     clock_ = std::make_unique<Clock>();
     try {
         clock_->thread =
-            std::jthread([&messages, work, clock = clock_.get()](std::stop_token stop) {
+            std::jthread([&messages, work, clock = clock_.get()](const std::stop_token& stop) {
                 auto passed = untilShown;
                 std::unique_lock lock(clock->mutex);
                 clock->isOver.wait_for(lock, stop, untilShown, [] { return false; });

@@ -209,6 +209,7 @@ void SetCoefficients(const PVOCompositionalModelAdaptor& model, CompositionalFlu
     const auto& coefficients = model.getBinaryInteractionCoefficients();
     const int n = model.getNumComponents();
     std::vector<std::string> names;
+    names.reserve(static_cast<std::size_t>(n));
     for (int i = 0; i < n; ++i) {
         names.push_back(model.getComponent(i).getName());
     }
