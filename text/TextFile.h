@@ -9,8 +9,13 @@
 
 namespace Orv::Text {
 
+// Fuzz programs are built with less, so that small texts have several blocks.
+#ifndef FLUIDBENCH_BLOCK_SIZE
+#define FLUIDBENCH_BLOCK_SIZE 65536
+#endif
+
 /// How much large files are read and written at once.
-inline constexpr std::size_t blockSize = std::size_t{64} * 1024;
+inline constexpr std::size_t blockSize = FLUIDBENCH_BLOCK_SIZE;
 
 /// The path of a file whose name is UTF-8, as all names are here. Some systems take other bytes.
 std::filesystem::path PathOf(const std::string& fileName);

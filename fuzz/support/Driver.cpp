@@ -91,15 +91,6 @@ std::string FaultOf(std::string_view input) {
     return taken < longestProcessorSeconds ? "" : "It took " + std::to_string(taken) + " s";
 }
 
-void WriteSamples(const std::string& folder) {
-    std::filesystem::create_directories(folder);
-    int number = 0;
-    for (const std::string& sample : Samples()) {
-        std::ofstream(folder + "/sample-" + std::to_string(number++), std::ios_base::binary)
-            << sample;
-    }
-}
-
 int RunFiles(const std::vector<std::string>& files) {
     int status = 0;
     for (const std::string& file : files) {

@@ -71,6 +71,20 @@ std::string ReadFile(const std::string& path) {
     return content.str();
 }
 
+void WriteSamples(const std::string& folder) {
+    std::filesystem::create_directories(folder);
+    int number = 0;
+    for (const std::string& sample : Samples()) {
+        std::ofstream(folder + "/sample-" + std::to_string(number++), std::ios_base::binary)
+            << sample;
+    }
+}
+
+void RemoveFolder() {
+    std::error_code error;
+    std::filesystem::remove_all(Folder(), error);
+}
+
 std::string ProjectFile(const std::string& path) {
     return ReadFile(std::string(FLUIDBENCH_PROJECT_FOLDER) + "/" + path);
 }

@@ -36,5 +36,10 @@ std::string PathOf(const std::string& name);
 std::string FileWith(const std::string& name, std::string_view content);
 std::string ReadFile(const std::string& path);
 const std::filesystem::path& Folder();
+/// For a process that doesn't end in order.
+void RemoveFolder();
+
+/// Writes the samples to files of a folder, for another fuzzer to begin with.
+void WriteSamples(const std::string& folder);
 
 } // namespace FluidBenchFuzz

@@ -118,13 +118,29 @@ std::string Mutator::Make(std::uint64_t number) {
     if (number < samples_.size()) {
         return samples_[number];
     }
-    // A generator of its own for each input, so that one can be made without those before it.
+    Seed(number);
+    return ChangeSeveralTimes(AnySample());
+}
+
+std::string Mutator::Change(std::string text, std::uint64_t number) {
+    Seed(number);
+    return ChangeSeveralTimes(std::move(text));
+}
+
+// A generator of its own for each input, so that one can be made without those before it.
+void Mutator::Seed(std::uint64_t number) {
     std::seed_seq numbers{seed_, seed_ >> 32U, number, number >> 32U};
     random_.seed(numbers);
-    std::string text = AnySample();
+}
+
+std::string Mutator::ChangeSeveralTimes(std::string text) {
     const std::uint64_t changes = 1 + Below(6);
     for (std::uint64_t i = 0; i < changes; ++i) {
-        Change(text);
+        ChangeOnce(text);
+    }
+    constexpr std::uint64_t longOnes = 150; // one in so many; they take their time
+    if (Below(longOnes) == 0) {
+        Lengthen(text);
     }
     text.resize(std::min(text.size(), longestInput));
     return text;
@@ -142,7 +158,7 @@ const std::string& Mutator::AnyWord() {
     return words_[Below(words_.size())];
 }
 
-void Mutator::Change(std::string& text) {
+void Mutator::ChangeOnce(std::string& text) {
     switch (Below(8)) {
     case 0:
         UseCarriageReturns(text);
@@ -233,6 +249,23 @@ void Mutator::ChangeLines(std::string& text) {
         text.replace(first.begin, first.length, text.substr(second.begin, second.length));
         break;
     }
+}
+
+// Has a line come so often that what is behind it stands about where the readers' first block ends.
+void Mutator::Lengthen(std::string& text) {
+    constexpr std::size_t block = std::size_t{128} * 1024;
+    const std::vector<Range> lines = LinesOf(text);
+    if (lines.empty() || text.size() >= block) {
+        return;
+    }
+    const Range line = lines[Below(lines.size())];
+    const std::size_t behind = Below(text.size() - line.begin + 1);
+    const std::string once = text.substr(line.begin, line.length);
+    std::string copies;
+    while (copies.size() + line.begin + behind < block) {
+        copies += once;
+    }
+    text.insert(line.begin, copies);
 }
 
 } // namespace FluidBenchFuzz

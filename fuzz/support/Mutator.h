@@ -12,22 +12,29 @@ namespace FluidBenchFuzz {
 /// and these two numbers alone, on every system.
 class Mutator {
 public:
-    static constexpr std::size_t longestInput = std::size_t{64} * 1024;
+    /// The readers read blocks of 128 KiB at first, so some inputs are a little longer.
+    static constexpr std::size_t longestInput = std::size_t{132} * 1024;
 
     Mutator(std::vector<std::string> samples, std::uint64_t seed);
 
     /// The input of that number. The first ones are the samples themselves.
     std::string Make(std::uint64_t number);
 
+    /// Changes a text in the same ways, by a number as well.
+    std::string Change(std::string text, std::uint64_t number);
+
 private:
+    void Seed(std::uint64_t number);
+    std::string ChangeSeveralTimes(std::string text);
     std::uint64_t Below(std::uint64_t bound);
     const std::string& AnySample();
     const std::string& AnyWord();
 
-    void Change(std::string& text);
+    void ChangeOnce(std::string& text);
     void ChangeBytes(std::string& text);
     void ChangeWord(std::string& text);
     void ChangeLines(std::string& text);
+    void Lengthen(std::string& text);
 
     std::vector<std::string> samples_;
     std::vector<std::string> words_;
