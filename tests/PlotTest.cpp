@@ -20,7 +20,7 @@ protected:
         EXPECT_EQ(run.messages, "") << arguments;
         const Outcome xml = Shell(FLUIDBENCH_XMLLINT " --noout --nonet out.svg");
         EXPECT_EQ(xml.messages, "") << arguments;
-        return ReadFile(folder / "out.svg");
+        return Written("out.svg");
     }
 };
 

@@ -11,6 +11,11 @@ std::filesystem::path PathOf(const std::string& fileName) {
     return {std::u8string(fileName.begin(), fileName.end())};
 }
 
+std::string NameOf(const std::filesystem::path& path) {
+    const std::u8string name = path.generic_u8string();
+    return {name.begin(), name.end()};
+}
+
 std::ofstream OpenForWriting(const std::string& fileName, std::span<char> buffer) {
     std::ofstream file;
     file.imbue(std::locale::classic());

@@ -19,6 +19,8 @@ inline constexpr std::size_t blockSize = FLUIDBENCH_BLOCK_SIZE;
 
 /// The path of a file whose name is UTF-8, as all names are here. Some systems take other bytes.
 std::filesystem::path PathOf(const std::string& fileName);
+/// The name of the file at that path, in UTF-8 and with slashes, which every system takes.
+std::string NameOf(const std::filesystem::path& path);
 
 /// Opens a text file for writing, which empties an existing one. The stream is in the classic
 /// locale whatever the program's global locale is. It isn't open where the file can't be written.

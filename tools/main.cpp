@@ -174,8 +174,7 @@ int RunAndFinish(const Words& words) {
 int main(int argumentCount, char** arguments) {
     FluidBenchTool::PrepareStreams();
     try {
-        return FluidBenchTool::RunAndFinish(FluidBenchTool::Words(
-            arguments + std::min(argumentCount, 1), arguments + argumentCount));
+        return FluidBenchTool::RunAndFinish(FluidBenchTool::WordsOf(argumentCount, arguments));
     } catch (const std::bad_alloc&) {
         std::cerr << "fluidbench-io: error: There isn't enough memory. [tool.no-memory]\n";
     } catch (const std::exception& error) {

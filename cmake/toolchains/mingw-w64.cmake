@@ -7,8 +7,11 @@ set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-find_program(WINE NAMES wine64 wine)
+# The package wine64 by itself puts no command in the search path. A UTF-8 locale has the program
+# get its words whole.
+find_program(WINE NAMES wine64 wine PATHS /usr/lib/wine)
 if(WINE)
-    set(CMAKE_CROSSCOMPILING_EMULATOR ${WINE})
+    set(CMAKE_CROSSCOMPILING_EMULATOR env LC_ALL=C.UTF-8 WINEDEBUG=-all ${WINE})
 endif()

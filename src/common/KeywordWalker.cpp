@@ -267,8 +267,7 @@ std::unique_ptr<KeywordLexer> KeywordWalker::OpenIncluded(const std::string& pat
     std::string reason;
     for (const std::string& each : {path, withSlashes}) {
         try {
-            const std::u8string name = (folder / Text::PathOf(each)).u8string();
-            return std::make_unique<KeywordLexer>(std::string(name.begin(), name.end()));
+            return std::make_unique<KeywordLexer>(Text::NameOf(folder / Text::PathOf(each)));
         } catch (const Text::KeywordFileError&) {
             throw;
         } catch (const std::runtime_error& error) {

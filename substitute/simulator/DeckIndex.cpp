@@ -6,6 +6,7 @@
 #include "NumberText.h"
 #include "OddCharacters.h"
 #include "Quote.h"
+#include "TextFile.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -638,9 +639,9 @@ void IndexBuilder::ReadInclude(KeywordLexer& deck) {
     if ((!isQuoted && path.kind != Kind::Word) || path.text.empty()) {
         throw KeywordError(line, "INCLUDE", "a path in quotes", Describe(path));
     }
-    const std::filesystem::path folder = std::filesystem::path(deck.File().Name()).parent_path();
+    const std::filesystem::path folder = Text::PathOf(deck.File().Name()).parent_path();
     const std::unique_ptr<KeywordLexer> included =
-        Open((folder / std::string(path.text)).string(), isQuoted, line);
+        Open(Text::NameOf(folder / Text::PathOf(std::string(path.text))), isQuoted, line);
     const Token behind = deck.Next();
     if (!EndsLine(behind)) {
         if (behind.kind != Kind::Slash) {
@@ -713,7 +714,7 @@ void IndexBuilder::TellUnreadable(const FilePlace& line, const std::string& expe
 void IndexBuilder::RequireSoundInclude(const std::string& path, const FilePlace& line) {
     const auto isSameFile = [&](const std::filesystem::path& open) {
         std::error_code error;
-        return std::filesystem::equivalent(open, path, error);
+        return std::filesystem::equivalent(open, Text::PathOf(path), error);
     };
     if (std::ranges::any_of(openFiles_, isSameFile)) {
         throw KeywordError(line, "INCLUDE", "a file that isn't being read already", Quote(path));

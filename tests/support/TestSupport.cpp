@@ -1,7 +1,9 @@
 #include "TestSupport.h"
 
-#include <cstdlib>
+#include "TextFile.h"
+
 #include <fstream>
+#include <random>
 #include <sstream>
 
 namespace FluidBenchTest {
@@ -18,11 +20,10 @@ protected:
 } // namespace
 
 TemporaryFolder::TemporaryFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "fluidbench-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) {
-        throw std::runtime_error("No temporary folder can be made");
-    }
-    path_ = name;
+    std::random_device random;
+    do {
+        path_ = std::filesystem::temp_directory_path() / ("fluidbench-" + std::to_string(random()));
+    } while (!std::filesystem::create_directory(path_)); // it may be there already
 }
 
 TemporaryFolder::~TemporaryFolder() {
@@ -30,13 +31,17 @@ TemporaryFolder::~TemporaryFolder() {
     std::filesystem::remove_all(path_, error);
 }
 
+std::string TemporaryFolder::operator/(const std::string& name) const {
+    return Orv::Text::NameOf(path_ / Orv::Text::PathOf(name));
+}
+
 std::string TemporaryFolder::Write(const std::string& name, std::string_view content) const {
-    std::ofstream(path_ / name, std::ios_base::binary) << content;
+    std::ofstream(path_ / Orv::Text::PathOf(name), std::ios_base::binary) << content;
     return *this / name;
 }
 
 std::string ReadFile(const std::string& path) {
-    const std::ifstream file(path, std::ios_base::binary);
+    const std::ifstream file(Orv::Text::PathOf(path));
     EXPECT_TRUE(file.is_open()) << path;
     std::ostringstream content;
     content << file.rdbuf();

@@ -23,7 +23,7 @@ public:
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
     /// The path of `name` in the folder.
-    std::string operator/(const std::string& name) const { return (path_ / name).string(); }
+    std::string operator/(const std::string& name) const;
     const std::filesystem::path& Path() const { return path_; }
     /// Writes a file of that name and gives its path.
     std::string Write(const std::string& name, std::string_view content) const;
@@ -32,10 +32,11 @@ private:
     std::filesystem::path path_;
 };
 
-/// The bytes of a file. A file that can't be read fails the test.
+/// The text of a file, with a newline for each line end of the system: its bytes, but on Windows.
+/// A file that can't be read fails the test.
 std::string ReadFile(const std::string& path);
 
-/// A file of tests/data, by its name there, as a path and as its bytes.
+/// A file of tests/data, by its name there, as a path and as its text.
 std::string DataPath(const std::string& name);
 std::string ReadData(const std::string& name);
 

@@ -1,4 +1,5 @@
-// Runs the command-line program as a user does.
+// Runs the command-line program as a user does. FLUIDBENCH_TOOL in the environment names another
+// one than that of this build: with "wine fluidbench-io.exe" it is the program for Windows.
 #pragma once
 
 #include "TestSupport.h"
@@ -29,6 +30,17 @@ inline bool Contains(const std::string& text, const std::string& part) {
     return text.find(part) != std::string::npos;
 }
 
+/// The words that start the program.
+inline std::string ToolCommand() {
+    const char* const other = std::getenv("FLUIDBENCH_TOOL");
+    return other != nullptr ? other : "'" FLUIDBENCH_TOOL "'";
+}
+
+/// Whether it is that for Windows, which ends lines with CR LF.
+inline bool IsForWindows() {
+    return ToolCommand().ends_with(".exe");
+}
+
 /// A test that runs lines of the shell in a folder of its own.
 class ToolRun : public testing::Test {
 protected:
@@ -36,16 +48,22 @@ protected:
     // for the folder of the sample files, also in what comes out.
     Outcome Shell(std::string line) {
         const std::string samples = FLUIDBENCH_EXAMPLE_DATA "/";
-        line = Replaced(Replaced(line, "TOOL", "'" FLUIDBENCH_TOOL "'"), "@", samples);
+        line = Replaced(Replaced(line, "TOOL", ToolCommand()), "@", samples);
         const std::string command = "cd '" + folder.Path().string() + "' && { " + line +
                                     "; } > .output 2> .messages < /dev/null";
         const int status = std::system(command.c_str());
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1,
-                Replaced(ReadFile(folder / ".output"), samples, "@"),
-                Replaced(ReadFile(folder / ".messages"), samples, "@")};
+                Replaced(Written(".output"), samples, "@"),
+                Replaced(Written(".messages"), samples, "@")};
     }
 
     Outcome Tool(const std::string& arguments) { return Shell("TOOL " + arguments); }
+
+    // A file of the folder that the program wrote, with newlines for its line ends.
+    std::string Written(const std::string& name) {
+        const std::string text = ReadFile(folder / name);
+        return IsForWindows() ? Replaced(text, "\r\n", "\n") : text;
+    }
 
     // What isn't hidden, and so not this class's own.
     std::string FilesOf(const std::string& subfolder = ".") {

@@ -87,6 +87,11 @@ void ImportOrFail(DFAReader& reader, Input& main, Call& call) {
     }
 }
 
+void ImportOperand(DFAReader& reader, Call& call) {
+    Input input(call.Operand(0), call.Told());
+    ImportOrFail(reader, input, call);
+}
+
 Cells Headings(bool field) {
     Cells headings;
     for (const Quantity& quantity : quantities) {
@@ -175,9 +180,8 @@ void Write(std::ostream& out, const std::vector<WellData>& wells) {
 
 void Show(Call& call) {
     const ShowForm form = ShowFormOf(call);
-    Input input(call.Operand(0), call.Told());
     DFAReader reader;
-    ImportOrFail(reader, input, call);
+    ImportOperand(reader, call);
     const bool field = IsField(call, Options::showUnits);
     switch (form) {
     case ShowForm::Text:
@@ -193,9 +197,8 @@ void Show(Call& call) {
 }
 
 void Convert(Call& call) {
-    Input input(call.Operand(0), call.Told());
     DFAReader reader;
-    ImportOrFail(reader, input, call);
+    ImportOperand(reader, call);
     call.Write(call.Operand(1), [&](std::ostream& out) {
         PrintStations(out, reader.GetExtractedData(), IsField(call, Options::toUnits));
     });

@@ -20,6 +20,7 @@ namespace FluidBenchTool {
 using Orv::FluidBench::Common::CommonPlottingObject;
 using Orv::FluidBench::Common::Point;
 using Orv::FluidBench::IO::PhaseEnvelopeReaderWriter;
+using Orv::Text::NameOf;
 using Orv::Text::PathOf;
 
 namespace Envelope {
@@ -207,8 +208,8 @@ std::string NameOfPicture(const std::string& output, std::size_t index) {
     }
     std::filesystem::path path = PathOf(output);
     const std::string name =
-        path.stem().string() + '-' + std::to_string(index + 1) + path.extension().string();
-    return path.replace_filename(name).string();
+        NameOf(path.stem()) + '-' + std::to_string(index + 1) + NameOf(path.extension());
+    return NameOf(path.replace_filename(PathOf(name)));
 }
 
 // A picture of each plot of a file.

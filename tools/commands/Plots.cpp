@@ -10,6 +10,7 @@ namespace FluidBenchTool {
 
 namespace {
 
+using Orv::Text::NameOf;
 using Orv::Text::ParseNumber;
 using Orv::Text::PathOf;
 
@@ -91,7 +92,7 @@ void RequirePicture(Call& call) {
 }
 
 std::string LegendName(const std::string& file) {
-    return file == standardStream ? "standard input" : PathOf(file).filename().string();
+    return file == standardStream ? "standard input" : NameOf(PathOf(file).filename());
 }
 
 std::string SubtitleOf(const Call& call) {

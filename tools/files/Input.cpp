@@ -34,11 +34,6 @@ std::string WhatItIs(const std::string& name) {
     }
 }
 
-// The name under which the system lets an open file be opened once more.
-std::string NameOf(const Descriptor& file) {
-    return "/dev/fd/" + std::to_string(file.Number());
-}
-
 } // namespace
 
 Input::Input(const std::string& name, Messages& messages) : messages_(messages), name_(name) {
@@ -56,23 +51,29 @@ Input::Input(const std::string& name, Messages& messages) : messages_(messages),
 }
 
 Input::~Input() {
-    if (!copy_.empty()) {
-        Remove(copy_);
+    text_.reset(); // some systems don't remove what is open
+    kept_.Close();
+    for (const std::string& name : temporary_) {
+        Remove(name);
     }
 }
 
 void Input::Keep() {
     const Progress progress(messages_, "Reading " + name_);
     std::error_code error;
-    const std::string folder = fs::temp_directory_path(error).string();
+    const std::string folder = Orv::Text::NameOf(fs::temp_directory_path(error));
     std::string name;
     kept_ = MakeTemporary(folder, name);
     if (!kept_.IsOpen()) {
         messages_.Fail(ToolKinds::cantRead, name_,
                        "Expected a folder for temporary files, found that none can be made in '" +
-                           folder + "' (" + ReasonOf(errno) + "); TMPDIR names another.");
+                           folder + "' (" + ReasonOf(errno) + "); " + temporaryFolderVariable +
+                           " names another.");
     }
-    Remove(name); // it is there as long as it is open, whatever ends the program
+    keptName_ = Unname(kept_, name);
+    if (keptName_ == name) {
+        temporary_.push_back(name);
+    }
     DescriptorBuffer buffer(kept_.Number());
     std::vector<char> block(Orv::Text::blockSize);
     std::ptrdiff_t count = 0;
@@ -86,13 +87,13 @@ void Input::Keep() {
     if (const int writing = buffer.Finish(); writing != 0) {
         messages_.Fail(ToolKinds::cantRead, name_,
                        "Expected room for it in '" + folder +
-                           "', found that it can't be written (" + ReasonOf(writing) +
-                           "); TMPDIR names another folder.");
+                           "', found that it can't be written (" + ReasonOf(writing) + "); " +
+                           temporaryFolderVariable + " names another folder.");
     }
 }
 
 std::istream& Input::Text() {
-    const std::string name = kept_.IsOpen() ? NameOf(kept_) : fileName_;
+    const std::string name = kept_.IsOpen() ? keptName_ : fileName_;
     text_.reset(); // one file at a time
     auto file = std::make_unique<std::ifstream>(Orv::Text::OpenForReading(name));
     if (!file->is_open()) {
@@ -104,16 +105,18 @@ std::istream& Input::Text() {
 }
 
 const std::string& Input::FileName() {
+    text_.reset(); // some systems replace no file that is open
     if (!fileName_.empty()) {
         return fileName_;
     }
     std::string name;
     Descriptor copy = MakeTemporary(".", name);
-    fileName_ = NameOf(kept_);
+    fileName_ = keptName_;
     if (copy.IsOpen()) {
-        copy_ = name;
+        temporary_.push_back(name);
         DescriptorBuffer buffer(copy.Number());
         std::ostream(&buffer) << Text().rdbuf();
+        text_.reset();
         if (buffer.Finish() == 0 && copy.Close() == 0) {
             fileName_ = name;
         }

@@ -7,6 +7,7 @@
 #include <istream>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace FluidBenchTool {
 
@@ -26,8 +27,8 @@ public:
     /// What messages call it.
     const std::string& Name() const noexcept { return name_; }
 
-    /// The text from its beginning. The stream is the object's, and valid until this is called
-    /// anew.
+    /// The text from its beginning. The stream is the object's, and valid until this or `FileName`
+    /// is called anew.
     std::istream& Text();
 
     /// A file with the text, for readers that take names. Of the standard input a copy is made in
@@ -40,10 +41,11 @@ private:
 
     Messages& messages_;
     std::string name_;
-    std::string fileName_; // empty as long as the standard input has none
-    std::string copy_;     // of the standard input, to be removed; empty where there is none
+    std::string fileName_;               // empty as long as the standard input has none
+    Descriptor kept_;                    // the standard input's text
+    std::string keptName_;               // by which it is opened
+    std::vector<std::string> temporary_; // names of files to be removed
     std::unique_ptr<std::istream> text_;
-    Descriptor kept_; // the standard input's text, in a file without a name
 };
 
 } // namespace FluidBenchTool

@@ -108,7 +108,7 @@ std::string BehindLinks(const std::string& name) {
         // A path that is absolute replaces what it is appended to.
         path = path.parent_path() / fs::read_symlink(path, error);
     }
-    return path.string();
+    return Orv::Text::NameOf(path);
 }
 
 void CantWrite(Messages& messages, const std::string& name, const std::string& found) {
