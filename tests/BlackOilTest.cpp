@@ -113,6 +113,9 @@ TEST_F(BlackOil, HighPrecision) {
     EXPECT_NE(Export(Units::METRIC, Writer::DEAD_OIL_WET_GAS, Writer::PVO)
                   .find("\n\t       \t100.000000000000000\t1.080000000000000\t1.100000000000000\n"),
               std::string::npos);
+    EXPECT_NE(Export(Units::METRIC, Writer::DEAD_OIL_WET_GAS, Writer::CSV)
+                  .find(",100.000000000000000,1.080000000000000,1.100000000000000\n"),
+              std::string::npos);
 }
 
 TEST_F(BlackOil, NarrowCellsAreFilledUpToTheirWidth) {

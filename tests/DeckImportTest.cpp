@@ -70,6 +70,7 @@ Outcome ReadDeck(const std::string& path, bool detectUnitSystem = false,
     reader.SetPVOUnitSystem(units);
     reader.SetDiagnosticSink(diagnosed.Sink());
     Outcome outcome;
+    EXPECT_EQ(reader.GetPVOName(), path);
     const ErrorReport report = reader.Read(outcome.fluid, detectUnitSystem);
     outcome.ids = MessageIds(report);
     outcome.failed = report.HasErrors();

@@ -169,6 +169,7 @@ TEST_F(DfaTest, FindsTheHeader) {
         {header + header + row, true, "5:no-pressure"},
         {header + row + "\"\n" + header + row, true, "4:not-a-row 6:second-header 7:no-pressure"},
         {"END HEADER\n" + header + row, true, "4:no-pressure"},
+        {"a HEADER\n" + header + "HEADER\n" + row, true, "4:other-text 5:no-pressure"},
         {"", false, "0:no-header 0:no-header"},
         {row, false, "0:no-header 0:no-header"},
         {"BEGIN HEADER\n" + row, false, "0:no-header"},

@@ -297,10 +297,12 @@ TEST_F(EnvelopeTest, TellsOfAFileThatFails) {
 TEST_F(EnvelopeTest, KeepsTheLastFailureUntilTheNext) {
     const std::string cantOpen = "Could not open file";
     EXPECT_EQ(Read("").message, cantOpen);
+    EXPECT_EQ(file.GetFileName(), "");
     const std::string good = folder.Write("good", block);
     const Outcome outcome = Read(good);
     EXPECT_TRUE(outcome.result);
     EXPECT_EQ(outcome.message, cantOpen);
+    EXPECT_EQ(file.GetFileName(), good);
     EXPECT_EQ(Read(folder.Write("ended", block + "1\n\n")).message, end);
     EXPECT_EQ(Read(folder.Write("empty", "")).message, end);
     const Outcome ofFolder = Read(folder.Path().string());
@@ -359,6 +361,24 @@ TEST_F(EnvelopeTest, WritesEveryKindOfLine) {
     EXPECT_THROW(writer.Write(out, plots), std::ios_base::failure);
 }
 
+TEST_F(EnvelopeTest, NamesEveryAxisWithItsUnit) {
+    const std::pair<std::string, std::string> axes[] = {{"T(K)", "T"},
+                                                        {"P(Pa)", "P"},
+                                                        {"Viscosity(Pa.s)", "Viscosity"},
+                                                        {"Density(Kg/m3)", "Density"},
+                                                        {"X(fraction)", "X"},
+                                                        {"H(J/mol)", "H"},
+                                                        {"V(m3/mol)", "V"},
+                                                        {"", ""}};
+    for (int axis = 0; axis < 8; ++axis) {
+        const auto& [unit, letter] = axes[axis];
+        const CommonPlottingObject plot{AxisType(axis), AxisType(8)};
+        EXPECT_EQ(Written({plot}, true), "Flash: \nSource: \nUnits: " + unit + ", \n\n" + headings +
+                                             "\n" + letter + ",," + letter + ",," + letter +
+                                             ",,\n\n");
+    }
+}
+
 TEST_F(EnvelopeTest, GivesBackWhatItWrote) {
     for (const char* const sample : {"rich-gas-envelope.csv", "separator-train-envelopes.txt"}) {
         const std::string path = std::string(FLUIDBENCH_EXAMPLE_DATA) + "/" + sample;
@@ -376,6 +396,18 @@ TEST_F(EnvelopeTest, GivesBackWhatItWrote) {
         Written(plots, !useComma);
         EXPECT_EQ(Read(folder / "written").plots, Text(plots)) << "with the other separator";
     }
+
+    // Longer than the blocks in which files are read and written.
+    std::vector<Point> points;
+    std::string expected = "bubble";
+    for (int i = 0; i < 9000; ++i) {
+        points.push_back({i + 0.5, i + 1000.0});
+        expected += ' ' + std::to_string(i) + ".5," + std::to_string(i + 1000);
+    }
+    CommonPlottingObject large(AxisType::Temperature, AxisType::Pressure);
+    large.AddLine(LineOf(0, points));
+    EXPECT_GT(Written({large}, true).size(), 2U * 65'536);
+    EXPECT_TRUE(Read(folder / "written").plots == expected + "; dew; critical");
 
     // What comes back in another form: a numbered line makes two quality lines, which the rows
     // have no cells for.

@@ -86,8 +86,17 @@ TEST_F(PlotTest, DrawsWhatItIsAskedFor) {
             EXPECT_FALSE(Contains(svg, part)) << c.arguments << ": " << part;
         }
     }
-    EXPECT_EQ(Draw("kvalues plot '" + DataPath("tool/kvalues.csv") + "'"),
-              ReadData("tool/kvalues.svg"));
+    // Whole pictures, each of which was looked at.
+    ASSERT_EQ(Shell("cp '" + DataPath("tool") + "'/*.csv .").status, 0);
+    const std::pair<const char*, const char*> whole[] = {
+        {"kvalues plot kvalues.csv", "tool/kvalues.svg"},
+        {"blackoil plot oil.csv oil2.csv --show-units field", "tool/blackoil.svg"},
+        {"depth plot depth.csv --title 'By depth' --size 500x400", "tool/depth.svg"},
+        {"envelope plot envelope.csv --x-range 20:60", "tool/envelope.svg"},
+    };
+    for (const auto& [arguments, picture] : whole) {
+        EXPECT_EQ(Draw(arguments), ReadData(picture)) << arguments;
+    }
 }
 
 TEST_F(PlotTest, PutsThingsWhereTheyBelong) {

@@ -107,16 +107,40 @@ TEST_F(Thermal, ATableWithoutComponents) {
 }
 
 TEST_F(Thermal, VectorsOfAnotherLengthAreRefusedAheadOfTheFile) {
-    std::map<std::string, ThermalExportTable> cases;
-    for (const char* const name :
-         {"ComponentNames", "MolecularWeights", "SpecificHeatD", "Zis", "CrookstonE"}) {
-        cases[name] = Sample(true);
+    using Table = ThermalExportTable;
+    const std::pair<const char*, std::vector<double> Table::*> members[] = {
+        {"MolecularWeights", &Table::MolecularWeights},
+        {"CriticalTemperatures", &Table::CriticalTemperatures},
+        {"CriticalPressures", &Table::CriticalPressures},
+        {"ReferenceTemperatures", &Table::ReferenceTemperatures},
+        {"ReferencePressures", &Table::ReferencePressures},
+        {"ReferenceDensities", &Table::ReferenceDensities},
+        {"AcentricFactors", &Table::AcentricFactors},
+        {"SpecificHeatA", &Table::SpecificHeatA},
+        {"SpecificHeatB", &Table::SpecificHeatB},
+        {"SpecificHeatC", &Table::SpecificHeatC},
+        {"SpecificHeatD", &Table::SpecificHeatD}};
+    const std::pair<const char*, void (Table::*)(std::vector<double>)> setters[] = {
+        {"HeatVaps", &Table::SetHeatVaps},
+        {"CRefs", &Table::SetCRefs},
+        {"ThermEx1s", &Table::SetThermEx1s},
+        {"ZFactors", &Table::SetZFactors},
+        {"Zis", &Table::SetZis}};
+    std::map<std::string, Table> cases;
+    (cases["ComponentNames"] = Sample(true)).ComponentNames.push_back("C3");
+    for (const auto& [name, member] : members) {
+        ((cases[name] = Sample(true)).*member).pop_back();
     }
-    cases["ComponentNames"].ComponentNames.push_back("C3");
-    cases["MolecularWeights"].MolecularWeights.pop_back();
-    cases["SpecificHeatD"].SpecificHeatD.pop_back();
-    cases["Zis"].SetZis({1.0});
-    cases["CrookstonE"].SetCrookston({1, 2}, {1, 2}, {1, 2}, {1, 2}, {1});
+    for (const auto& [name, setter] : setters) {
+        ((cases[name] = Sample(true)).*setter)({1.0});
+    }
+    for (std::size_t i = 0; i < 5; ++i) {
+        std::vector<std::vector<double>> fit(5, {1.0, 2.0});
+        fit[i].pop_back();
+        (cases[std::string("Crookston") + "ABCDE"[i]] = Sample(true))
+            .SetCrookston(fit[0], fit[1], fit[2], fit[3], fit[4]);
+    }
+    ASSERT_EQ(cases.size(), 22U);
     const std::string path = folder.Write("old", "old text");
     for (const auto& [name, table] : cases) {
         try {

@@ -77,7 +77,8 @@ TEST_F(ToolTest, TellsWhatIsWrongWithACommandLine) {
     }
 }
 
-// The inputs and outputs are under tests/data/tool; the numbers are checked by hand.
+// The inputs and outputs are under tests/data/tool; the numbers are checked by hand, those of the
+// samples ("@") against the files.
 TEST_F(ToolTest, ShowsConvertsAndCompares) {
     struct Golden {
         const char* arguments;
@@ -118,6 +119,25 @@ TEST_F(ToolTest, ShowsConvertsAndCompares) {
         {"dfa show w_DFA.txt", 0, "dfa-show.txt"},
         {"dfa show - --json --ft w_FT.txt < w_DFA.txt", 0, "dfa-show.json"},
         {"dfa convert w_DFA.txt -", 0, "dfa-convert.csv"},
+        {"deck show @reservoir-oil-field.dat --show-units field", 0, "deck-show-samples.txt"},
+        {"deck convert @six-component-oil.mfl - --runspec --to-units field --temperature 160F", 0,
+         "deck-convert-field.dat"},
+        {"mfl show @six-component-oil.mfl", 0, "mfl-show.txt"},
+        {"mfl show @six-component-oil.mfl --json", 0, "mfl-show.json"},
+        {"compositions show @north-flank-compositions.inc", 0, "compositions-show.txt"},
+        {"compositions show @north-flank-compositions.inc --json", 0, "compositions-show.json"},
+        {"compositions show @north-flank-compositions.inc --csv --show-units field", 0,
+         "compositions-show-field.csv"},
+        {"depth show @north-flank-depth.inc --show-units field", 0, "depth-show-field.txt"},
+        {"depth show depth.csv --csv", 0, "depth-show.csv"},
+        {"kvalues show @two-temperatures-k-values.inc --csv", 0, "kvalues-show.csv"},
+        {"thermal show @two-component-thermal.inc --csv", 0, "thermal-show.csv"},
+        {"envelope show @separator-train-envelopes.txt", 0, "envelope-show-samples.txt"},
+        {"help", 0, "help.txt"},
+        {"help blackoil convert", 0, "help-blackoil-convert.txt"},
+        {"help --man", 0, "help.1"},
+        {"help --bash", 0, "help.bash"},
+        {"help --zsh", 0, "help.zsh"},
     };
     folder.Write("nothing", "");
     ASSERT_EQ(Shell("cp '" + DataPath("tool") + "'/* .").status, 0);
