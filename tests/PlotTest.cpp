@@ -93,6 +93,7 @@ TEST_F(PlotTest, DrawsWhatItIsAskedFor) {
         {"blackoil plot oil.csv oil2.csv --show-units field", "tool/blackoil.svg"},
         {"depth plot depth.csv --title 'By depth' --size 500x400", "tool/depth.svg"},
         {"envelope plot envelope.csv --x-range 20:60", "tool/envelope.svg"},
+        {"envelope plot hydrates.csv", "tool/hydrates.svg"},
     };
     for (const auto& [arguments, picture] : whole) {
         EXPECT_EQ(Draw(arguments), ReadData(picture)) << arguments;

@@ -131,6 +131,7 @@ TEST_F(ToolTest, ShowsConvertsAndCompares) {
         {"depth show @north-flank-depth.inc --show-units field", 0, "depth-show-field.txt"},
         {"depth show depth.csv --csv", 0, "depth-show.csv"},
         {"kvalues show @two-temperatures-k-values.inc --csv", 0, "kvalues-show.csv"},
+        {"kvalues show @two-temperatures-k-values.inc", 0, "kvalues-show-temperatures.txt"},
         {"thermal show @two-component-thermal.inc --csv", 0, "thermal-show.csv"},
         {"envelope show @separator-train-envelopes.txt", 0, "envelope-show-samples.txt"},
         {"help", 0, "help.txt"},
