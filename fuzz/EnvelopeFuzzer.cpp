@@ -62,6 +62,12 @@ public:
             return;
         }
         separator_ = letters[1];
+        // The separator is looked for ahead of everything, and not behind a line that is cut.
+        if (std::any_of(lines.begin(), lines.begin() + 6,
+                        [](const std::string& line) { return line.size() > 499; })) {
+            isWhole = false;
+            return;
+        }
         for (const std::string& line : lines) {
             ++number_;
             if (line.size() > 499) {

@@ -351,6 +351,10 @@ TEST_F(ToolTest, TellsWhichRowOfDataIsWrong) {
         EXPECT_EQ(run.messages, std::string("in.csv:") + message + " [tool.bad-row]\n");
         EXPECT_EQ(FilesOf(), "in.csv\n");
     }
+    folder.Write("in.csv", "component,C1\ncomponent,C1\n");
+    EXPECT_EQ(Tool("depth show in.csv").messages,
+              "in.csv:2: error: Expected the name of a component that isn't there yet, found 'C1'. "
+              "[tool.bad-row]\n");
 }
 
 TEST_F(ToolTest, LeavesTheOldFileUntilTheNewOneIsWhole) {

@@ -123,7 +123,11 @@ Stage RowReader::StageOfRow(const std::vector<std::string>& components) const {
 void RowReader::TakeOfRun(DepthRun& run) {
     const std::string& name = rows_.Name();
     if (name == "component" && !rows_.Texts().empty()) {
-        run.components.push_back(rows_.Texts().front());
+        const std::string component = rows_.Texts().front();
+        if (component.empty() || std::ranges::count(run.components, component) > 0) {
+            rows_.Fail("the name of a component that isn't there yet", "'" + component + "'");
+        }
+        run.components.push_back(component);
     } else if (name == "contact") {
         run.results.ContactStage = StageOfRow(run.components);
     } else if (name == "gas" || name == "oil") {
