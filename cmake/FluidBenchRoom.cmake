@@ -16,12 +16,14 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     target_compile_options(FluidBenchBuildOptions INTERFACE -Wno-restrict)
 endif()
 if(FLUIDBENCH_HARDENING AND NOT FLUIDBENCH_SANITIZE AND NOT WIN32)
-    # What is built to be fast is what people run. A bound that a container checks ends the program.
+    # What is built to be fast is what people run. Bounds that containers check take some 3 % more
+    # instructions to read and write black oil, so they are for development, where they end the
+    # program.
     set(optimised $<CONFIG:Release,RelWithDebInfo>)
     target_compile_options(FluidBenchBuildOptions INTERFACE
         $<${optimised}:-fstack-protector-strong>
         $<${optimised}:-U_FORTIFY_SOURCE> $<${optimised}:-D_FORTIFY_SOURCE=2>
-        $<${optimised}:-D_GLIBCXX_ASSERTIONS>)
+        $<$<CONFIG:RelWithDebInfo>:-D_GLIBCXX_ASSERTIONS>)
     target_link_options(FluidBenchBuildOptions INTERFACE -Wl,-z,relro,-z,now)
 endif()
 if(FLUIDBENCH_SANITIZE)
