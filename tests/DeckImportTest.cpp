@@ -453,6 +453,12 @@ TEST_F(DeckImportTest, TakesALineAlikeInEveryPlace) {
         {"INCLUDE\n'sub\\mw.inc' /\n", ""},
         {"INCLUDE none.inc /\n", "1:refused"},
         {"TITLE\nMW of the oil\n", ""},
+        {"TITLE -- of it\n-- a comment\nMW of the oil\n", ""},
+        {"TITLE A study\nACF\n0 x /\n", "3:refused"},
+        {"TITLE\n/\nACF\n0 x /\n", "4:refused"},
+        {"TITLE\nGRID\nACF\n0 x /\n", "4:refused"},
+        {"TITLE\nINCLUDE\nACF\n0 x /\n", "4:refused"},
+        {"TITLE\nSKIP\nACF\n0 x /\nENDSKIP\n", "4:refused"},
     };
     const std::string sections[] = {"", "RUNSPEC\n", "PROPS\n", "SOLUTION\n"};
     const std::string neighbours[] = {"", "OIL\n", "ROCK\n1 2 /\n", "NCOMPS\n2 /\n",
@@ -495,10 +501,18 @@ TEST_F(DeckImportTest, TellsWhatIsNotAsItSeems) {
     const std::string mw = sound;
     const std::string others = twoComponents + rest.substr(rest.find("PCRIT"));
     const std::vector<double> none{0, 0};
+    const std::string blanks(200'000, ' ');
+    std::string blocks; // more than a file is read by
+    for (int i = 0; i < 50'000; ++i) {
+        blocks += "1 2\n";
+    }
     const Case cases[] = {
         {"\xEF\xBB\xBF" + mw, {16, 30}, ""},
         {others + "ROCK\n1 2\nMW\n16 30 /\n", none, "15:in-open-record 0:property-missing"},
         {mw + "ROCK\n1 2\n", {16, 30}, "16:record-not-closed"},
+        {mw + "ROCK\n" + blocks + "/\nMW\n17 " + blanks + "31 /\nACF\n0 0.1 /\n",
+         {17, 31},
+         "50017:second-time"},
         {mw + "ROCK\n1 2 /\n2017\nMW\n17 31 /\n", {17, 31}, "17:record-not-closed 18:second-time"},
         {mw + "GRID\nMW\n17 31 /\n", {16, 30}, ""},
         {others + "GRID ====\nMW\n17 31 /\n", none, "14:other-section 0:property-missing"},
@@ -538,6 +552,22 @@ TEST_F(DeckImportTest, TellsWhatIsNotAsItSeems) {
         EXPECT_EQ(Values(deck.fluid, &FluidComponent::GetMolecularWeight), c.molecularWeights)
             << c.text << deck.errors;
         EXPECT_EQ(deck.told, c.told) << c.text << deck.errors;
+    }
+}
+
+// Each is entered from one of the other kind.
+TEST_F(DeckImportTest, KnowsTheSectionsThatMayHoldFluidData) {
+    const std::string others = twoComponents + rest.substr(rest.find("PCRIT"));
+    for (const auto& [sections, told] : {
+             std::pair{"GRID\nRUNSPEC", ""},
+             {"GRID\nPROPS", ""},
+             {"GRID\nSOLUTION", ""},
+             {"PROPS\nGRID", "15:other-section 0:property-missing"},
+             {"PROPS\nREGIONS", "15:other-section 0:property-missing"},
+             {"PROPS\nSUMMARY", "15:other-section 0:property-missing"},
+             {"PROPS\nSCHEDULE", "15:other-section 0:property-missing"},
+         }) {
+        EXPECT_EQ(ReadText(others + sections + "\nMW\n16 30 /\n").told, told) << sections;
     }
 }
 

@@ -119,6 +119,7 @@ TEST_F(ToolTest, ShowsConvertsAndCompares) {
         {"dfa show w_DFA.txt", 0, "dfa-show.txt"},
         {"dfa show - --json --ft w_FT.txt < w_DFA.txt", 0, "dfa-show.json"},
         {"dfa convert w_DFA.txt -", 0, "dfa-convert.csv"},
+        {"dfa show w_DFA.txt --ft w_FT.txt --show-units field", 0, "dfa-show-field.txt"},
         {"deck show @reservoir-oil-field.dat --show-units field", 0, "deck-show-samples.txt"},
         {"deck convert @six-component-oil.mfl - --runspec --to-units field --temperature 160F", 0,
          "deck-convert-field.dat"},
