@@ -58,7 +58,7 @@ void TellOddText(Diagnostics& diagnostics, Text::TextKind kind);
 /// Tells that reading failed behind that line.
 void TellReadFailed(Diagnostics& diagnostics, std::uint64_t line);
 
-/// Tells why there are no more lines, unless the text has no more; tells whether it has.
+/// Tells why the lines end ahead of the end of the text, and gives false; true where they don't.
 bool TellHowEnded(Diagnostics& diagnostics, const Text::LineReader& lines);
 
 } // namespace Orv::FluidBench::Impl::IO
