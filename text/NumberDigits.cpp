@@ -7,8 +7,8 @@
 // asked for, and m * 2^e < 2^64 for every e from 0 to 11.
 //
 // Fixed notation with p decimals, 1 <= p <= 19, of a number with e < 0:
-// - With k = min(-e, 127) the whole part is m / 2^k, which is below 2^52, and the rest f is below
-//   2^k and below 2^53.
+// - With k = min(-e, 127) the whole part is m / 2^k, which is below 2^52, and zero for k > 52; the
+//   rest f is below 2^k and below 2^53.
 // - f * 10^p < 2^53 * 2^63.12 < 2^117 fits. f * 10^p / 2^k < 10^p < 2^64 fits 64 bits, and so does
 //   the 10^p that rounding may make of it, which carries one into the whole part.
 // - Where -e > 127, k is too small, but then f * 10^p / 2^k < 2^-10 rounds to zero as the right
@@ -116,6 +116,10 @@ void PutEight(char* out, std::uint32_t number) {
 // Exactly `count` digits, zeros ahead.
 char* PutDigits(char* out, std::uint64_t number, int count) {
     char* const end = out + count;
+    if (count == 8) { // what most tables have
+        PutEight(out, static_cast<std::uint32_t>(number));
+        return end;
+    }
     for (; count >= 8; count -= 8) {
         PutEight(out + count - 8, static_cast<std::uint32_t>(number % 100'000'000));
         number /= 100'000'000;
@@ -141,28 +145,37 @@ char* PutWhole(char* out, std::uint64_t number) {
     return PutDigits(out, number, exponent + (hasOneMore ? 2 : 1));
 }
 
+// fraction * power / 2^shift, rounded half to even. `Word` is one of more than `shift` bits.
+template <class Word>
+std::uint64_t RoundDecimals(std::uint64_t fraction, std::uint64_t power, int shift) {
+    const Word one = Word{1} << shift;
+    const Uint128 scaled = Uint128{fraction} * power;
+    const Word remainder = static_cast<Word>(scaled) & (one - 1);
+    const auto decimals = static_cast<std::uint64_t>(scaled >> shift);
+    const bool isOdd = decimals % 2 == 1;
+    return decimals + (remainder + isOdd > one / 2 ? 1 : 0);
+}
+
 char* PutFixed(char* out, Magnitude number, int precision) {
     if (precision < 1 || precision > mostDecimals || number.exponent > mostExponentOfTwo) {
         return nullptr;
     }
+    const std::uint64_t power = PowerOfTen(precision);
     std::uint64_t whole = 0;
     std::uint64_t decimals = 0;
     if (number.exponent >= 0) {
         whole = number.mantissa << number.exponent;
+    } else if (number.exponent > -64) {
+        const int shift = -number.exponent;
+        whole = number.mantissa >> shift;
+        decimals = RoundDecimals<std::uint64_t>(number.mantissa - (whole << shift), power, shift);
     } else {
         const int shift = std::min(-number.exponent, 127);
-        const Uint128 one = Uint128{1} << shift;
-        const Uint128 scaled = (number.mantissa & (one - 1)) * PowerOfTen(precision);
-        const Uint128 remainder = scaled & (one - 1);
-        const Uint128 half = one >> 1;
-        whole = static_cast<std::uint64_t>(Uint128{number.mantissa} >> shift);
-        decimals = static_cast<std::uint64_t>(scaled >> shift);
-        const bool isOdd = decimals % 2 == 1;
-        decimals += remainder + isOdd > half ? 1 : 0;
-        if (decimals == PowerOfTen(precision)) {
-            decimals = 0;
-            ++whole;
-        }
+        decimals = RoundDecimals<Uint128>(number.mantissa, power, shift);
+    }
+    if (decimals == power) {
+        decimals = 0;
+        ++whole;
     }
     out = PutWhole(out, whole);
     *out++ = '.';
