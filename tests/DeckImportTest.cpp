@@ -726,6 +726,11 @@ TEST_F(DeckImportTest, ReportsFilesAndValuesThatCannotBe) {
         EXPECT_TRUE(deck.errors.starts_with(c.error)) << deck.errors;
         EXPECT_EQ(deck.fluid.NumberOfComponents(), 0);
     }
+    for (const std::string keyword :
+         {"MW", "PCRIT", "TCRIT", "ZCRIT", "VCRIT", "VCRITVIS", "OMEGAA", "OMEGAB"}) {
+        const Outcome deck = ReadText(twoComponents + keyword + "\n1 -1 /\n");
+        EXPECT_TRUE(deck.errors.starts_with("3: Keyword " + keyword + ": The ")) << deck.errors;
+    }
 #ifndef _WIN32
     // What opens and can't be read is no deck.
     const std::string pipe = folder / "pipe";

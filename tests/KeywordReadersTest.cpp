@@ -614,6 +614,7 @@ TEST(ThermalKeywords, WhatIsMissingTwiceOrTooShort) {
         {head + "KVCR\n2*1 2*2 2*3 2*4 1 /\n" + metric, "6:row-length"},
         {head + "KVCR\n2*1 2*2 2*3 2*4 1000000000*5 /\n" + metric, "6:repeat-count"},
         {"NCOMPS\ntwo /\n" + metric, "2:not-a-number"},
+        {"CNAMES\nC1 2.5 /\n" + metric, "2:not-a-name"},
         {"ECHO\n1 2 /\n" + metric, "5:no-table"},
     };
     for (const Case& each : cases) {

@@ -151,6 +151,21 @@ TEST_F(ToolTest, ShowsConvertsAndCompares) {
     }
 }
 
+// Each word stands alone, and only the reader of its format says of that what is held here.
+TEST_F(ToolTest, KnowsAFormatByEachOfItsWords) {
+    const Outcome run = Shell(
+        "for word in MFL EOS OMEGAA OMEGAB BIC VCRIT PARACHOR SPECHA SPECHG HEATVAPS KVCR KVWI "
+        "THERMEX1 KVTABLE TCRIT MW PVTO PVDO PVTG PVDG ZMFVD PBVD PDVD RSVD RVVD YMFVP XMFVP "
+        "DENSITY RSCONSTT CNAMES NCOMPS RUNSPEC PROPS INCLUDE FILEUNIT; do "
+        "  echo $word > $word.k; echo $word.k >> words; done; "
+        "for cell in Pvto pvtG ODEN gden Components record standard 'Molecular weights' "
+        "Separator contact gas oil keyword; do "
+        "  echo \"$cell,\" > \"$cell.csv\"; echo \"$cell.csv\" >> words; done; "
+        "echo > empty; echo empty >> words; xargs -d '\\n' TOOL check < words");
+    EXPECT_EQ(run.messages, ReadData("tool/check-words.txt"));
+    EXPECT_EQ(Tool("check @*").output, ReadData("tool/check-samples.txt"));
+}
+
 // What is written as keywords comes back from commas to the byte, through pipes too, and shows,
 // draws and compares as the same.
 TEST_F(ToolTest, KeywordsBecomeCommasAndKeywordsAgain) {
@@ -211,6 +226,11 @@ TEST_F(ToolTest, TellsWhatAFileOfTablesCantGive) {
                                         "[tool.water-density]\n";
     folder.Write("both.inc", "FILEUNIT\nMETRIC /\nDENSITY\n800 1000 1 /\nPVTO\n10 50 1.1 0.5 /\n/\n"
                              "PVDO\n50 1.1 0.5\n100 1.0 0.6 /\n");
+    std::string wide = "Flash: \nSource: \nUnits: \n\nBubble,,"; // vapour fractions without cells
+    for (int i = 0; i < 99; ++i) {
+        wide += "V,.5,";
+    }
+    folder.Write("wide.csv", wide.substr(0, 490) + "\nT,P,\n1,2,\n");
     const auto note = [&](const std::string& region) {
         return regions + ": note: Expected a water density of 1000 kg/m3 in region " + region +
                ", found 1020, which the table holds; a file that is written of it has 1000. "
@@ -250,7 +270,9 @@ TEST_F(ToolTest, TellsWhatAFileOfTablesCantGive) {
              {"blackoil convert @two-region-black-oil.inc - --tables dead-dry",
               "tool.no-saturation-point"},
              {"blackoil show @two-component-thermal.inc", "keywords."},
-             {"thermal convert out.csv -", "tool.bad-row"}}) {
+             {"thermal convert out.csv -", "tool.bad-row"},
+             {"check --format dfa @north-field_FT.txt", "tool.nothing-read"},
+             {"envelope convert wide.csv -", "tool.long-line"}}) {
         EXPECT_TRUE(Contains(Tool(line).messages, code)) << line << Tool(line).messages;
     }
 }

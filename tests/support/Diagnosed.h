@@ -1,6 +1,7 @@
 // What a reader tells beside its result, and streams that fail, for the tests of every reader.
 #pragma once
 
+#include "TestSupport.h"
 #include "io/Diagnostics.h"
 
 #include <cstddef>
@@ -13,12 +14,15 @@
 
 namespace FluidBenchTest {
 
-/// Collects diagnostics.
+/// Collects diagnostics, and expects each sentence to be one of tests/data/sentences.txt.
 class Diagnosed {
 public:
     /// To be given to one reader; the object has to outlive it.
     Orv::FluidBench::IO::DiagnosticSink Sink() {
-        return [this](const auto& diagnostic) { all_.push_back(diagnostic); };
+        return [this](const auto& diagnostic) {
+            ExpectSentence(diagnostic.code, diagnostic.sentence);
+            all_.push_back(diagnostic);
+        };
     }
     const std::vector<Orv::FluidBench::IO::Diagnostic>& All() const { return all_; }
 

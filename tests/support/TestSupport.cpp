@@ -2,8 +2,11 @@
 
 #include "TextFile.h"
 
+#include <algorithm>
 #include <fstream>
 #include <random>
+#include <regex>
+#include <set>
 #include <sstream>
 
 namespace FluidBenchTest {
@@ -54,6 +57,22 @@ std::string DataPath(const std::string& name) {
 
 std::string ReadData(const std::string& name) {
     return ReadFile(DataPath(name));
+}
+
+void ExpectSentence(const std::string& code, const std::string& sentence) {
+    static const auto known = [] {
+        std::set<std::string> lines;
+        std::istringstream text(ReadData("sentences.txt"));
+        for (std::string line; std::getline(text, line);) {
+            lines.insert(line);
+        }
+        return lines;
+    }();
+    static const std::regex folder("/[^']*/fluidbench-[0-9]+");
+    std::string line = code + ": " + std::regex_replace(sentence, folder, "FOLDER");
+    std::ranges::replace_if(
+        line, [](char c) { return static_cast<unsigned char>(c) > 0x7F; }, '?');
+    EXPECT_TRUE(known.contains(line)) << "Not in tests/data/sentences.txt:\n" << line << '\n';
 }
 
 std::vector<std::int32_t> MessageIds(const Orv::FluidBench::Common::ErrorReport& report) {

@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 
 #include <cstdlib>
+#include <regex>
 #include <string>
 
 namespace FluidBenchTest {
@@ -52,9 +53,15 @@ protected:
         const std::string command = "cd '" + folder.Path().string() + "' && { " + line +
                                     "; } > .output 2> .messages < /dev/null";
         const int status = std::system(command.c_str());
+        const std::string messages = Replaced(Written(".messages"), samples, "@");
+        static const std::regex message(
+            R"((?:error|warning|note): (.*) \[([a-z]+\.[a-z0-9-]+)\]\n)");
+        for (std::sregex_iterator i(messages.begin(), messages.end(), message), end; i != end;
+             ++i) {
+            ExpectSentence((*i)[2], (*i)[1]);
+        }
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1,
-                Replaced(Written(".output"), samples, "@"),
-                Replaced(Written(".messages"), samples, "@")};
+                Replaced(Written(".output"), samples, "@"), messages};
     }
 
     Outcome Tool(const std::string& arguments) { return Shell("TOOL " + arguments); }

@@ -239,7 +239,9 @@ Writer::EXPORT_TYPE ChooseTables(const std::vector<BlackOilTable>& regions, cons
 void WarnOfWaterDensity(const std::vector<BlackOilTable>& regions, Call& call) {
     constexpr double writtenDensity = 1000.0;
     const auto other = std::ranges::find_if(regions, [](const BlackOilTable& region) {
-        return region.GetWaterDensity() != 0.0 && region.GetWaterDensity() != writtenDensity;
+        // A density of field units is 1000 but for the digits that a file has.
+        const std::string shown = NumberText(region.GetWaterDensity());
+        return region.GetWaterDensity() != 0.0 && shown != NumberText(writtenDensity);
     });
     if (other != regions.end()) {
         call.Told().Tell(ToolKinds::waterDensity, call.Operand(0),

@@ -20,7 +20,10 @@ bool Contains(std::string_view text, std::string_view word) noexcept {
 std::optional<bool> UnitScan::FindMetric() {
     Words previous;
     bool isBehindFileUnit = false;
-    while (isBehindFileUnit || PassPlainLines()) {
+    for (;;) {
+        if (!isBehindFileUnit) {
+            PassPlainLines();
+        }
         Words line;
         if (!ReadLine(line)) {
             break;
@@ -76,8 +79,7 @@ bool UnitScan::ReadLine(Words& words) {
 }
 
 // At the head of a line: passes lines that hold no keyword and don't stand ahead of one that may.
-// False at the end of the text.
-bool UnitScan::PassPlainLines() {
+void UnitScan::PassPlainLines() {
     for (;;) {
         const std::string_view ahead = input_.Ahead();
         const std::size_t keyword = ahead.find(inBothKeywords);
@@ -90,11 +92,8 @@ bool UnitScan::PassPlainLines() {
         }
         const bool isVeryLong =
             input_.Ahead().size() >= blockSize && newline == std::string_view::npos;
-        if (keyword != std::string_view::npos || isVeryLong) {
-            return true;
-        }
-        if (!ReadMore(input_.Ahead().size())) {
-            return false;
+        if (keyword != std::string_view::npos || isVeryLong || !ReadMore(input_.Ahead().size())) {
+            return;
         }
     }
 }

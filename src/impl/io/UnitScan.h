@@ -39,7 +39,7 @@ private:
 
     static void Look(std::string_view text, Words& words);
     bool ReadLine(Words& words);
-    bool PassPlainLines();
+    void PassPlainLines();
     bool ReadMore(std::size_t size);
 
     Text::TextInput input_;
