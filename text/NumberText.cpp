@@ -86,9 +86,9 @@ std::size_t PrefixLength(std::string_view number) {
     return number.starts_with("0x") || number.starts_with("0X") ? 2 : 0;
 }
 
-// Fills the field of the number that begins at `begin` as the stream would.
-void Pad(TextBuffer& text, std::size_t begin, std::size_t width, const std::ostream& out) {
-    const std::string_view number = text.View().substr(begin);
+// Fills the field of the number as the stream would.
+void Pad(TextBuffer& text, std::size_t width, const std::ostream& out) {
+    const std::string_view number = text.View();
     if (number.size() >= width) {
         return;
     }
@@ -96,7 +96,7 @@ void Pad(TextBuffer& text, std::size_t begin, std::size_t width, const std::ostr
     const std::size_t where = adjustment == std::ios_base::left       ? number.size()
                               : adjustment == std::ios_base::internal ? PrefixLength(number)
                                                                       : 0;
-    text.Insert(begin + where, width - number.size(), out.fill());
+    text.Insert(where, width - number.size(), out.fill());
 }
 
 std::size_t TakeWidth(std::ostream& out) {
@@ -292,10 +292,9 @@ NumberFormat FormatOf(const std::ostream& out) {
             static_cast<int>(out.precision())};
 }
 
-void AppendAsInserted(TextBuffer& text, double value, const std::ostream& out, std::size_t width) {
+void AppendAsInserted(TextBuffer& text, double value, const std::ostream& out) {
     constexpr Flags dressing =
         std::ios_base::showpoint | std::ios_base::showpos | std::ios_base::uppercase;
-    const std::size_t begin = text.Size();
     const Flags flags = out.flags();
     const bool isHexadecimal = (flags & std::ios_base::floatfield) == std::ios_base::floatfield;
     if ((flags & dressing) == 0 && !isHexadecimal) {
@@ -303,19 +302,19 @@ void AppendAsInserted(TextBuffer& text, double value, const std::ostream& out, s
     } else {
         text += DressedNumber(value, FormatOf(out), flags);
     }
-    Pad(text, begin, width, out);
 }
 
 void WriteNumber(std::ostream& out, double value) {
     TextBuffer number;
-    AppendAsInserted(number, value, out, TakeWidth(out));
+    AppendAsInserted(number, value, out);
+    Pad(number, TakeWidth(out), out);
     number.WriteTo(out);
 }
 
 void WriteNumber(std::ostream& out, std::uint64_t value) {
     TextBuffer number;
     AppendNumber(number, value);
-    Pad(number, 0, TakeWidth(out), out);
+    Pad(number, TakeWidth(out), out);
     number.WriteTo(out);
 }
 

@@ -33,10 +33,9 @@ void AppendNumber(std::string& text, std::uint64_t value);
 /// notation counts as general.
 NumberFormat FormatOf(const std::ostream& out);
 
-/// Appends what `out << std::setw(width) << value` would write in the classic locale, whatever
-/// locale is imbued: notation, precision, sign, point and letter case flags, fill and adjustment
-/// are the stream's.
-void AppendAsInserted(TextBuffer& text, double value, const std::ostream& out, std::size_t width);
+/// Appends what `out << value` would write without a width in the classic locale, whatever locale
+/// is imbued: notation, precision, sign, point and letter case flags are the stream's.
+void AppendAsInserted(TextBuffer& text, double value, const std::ostream& out);
 
 /// Writes the number as `out << value` would in the classic locale; the width is the stream's
 /// too. Clears the width, as an insertion does.

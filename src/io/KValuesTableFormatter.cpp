@@ -22,15 +22,16 @@ namespace {
 // than a cell isn't cut.
 class CellLine {
 public:
-    explicit CellLine(std::ostream& out) : out_(out) {}
+    explicit CellLine(std::ostream& out) : out_(out), fill_(out.fill()) {}
 
     void Add(std::string_view text) {
         const std::size_t end = line_.Size() + kValuesCellWidth;
-        (line_ += text).FillTo(end, out_.fill()) += ' ';
+        (line_ += text).FillTo(end, fill_) += ' ';
     }
     void Add(double value) {
-        AppendAsInserted(line_, value, out_, kValuesCellWidth);
-        line_ += ' ';
+        const std::size_t end = line_.Size() + kValuesCellWidth;
+        AppendAsInserted(line_, value, out_);
+        line_.FillTo(end, fill_) += ' ';
     }
     void End() {
         line_ += '\n';
@@ -40,6 +41,7 @@ public:
 
 private:
     std::ostream& out_;
+    char fill_;
     TextBuffer line_;
 };
 
