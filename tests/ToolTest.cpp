@@ -277,6 +277,30 @@ TEST_F(ToolTest, TellsWhatAFileOfTablesCantGive) {
     }
 }
 
+TEST_F(ToolTest, TellsOfRecordsThatKeywordsCantHave) {
+    struct Records {
+        std::string oil; // the ratio and the pressure of each row
+        std::string gas; // the pressure and the ratio
+        bool areTold;
+    };
+    const std::string sound = ",30,50;,30,60;\n,40,55;";
+    for (const Records& r : {Records{sound, ",30,2;,30,2;,30,1;\n,40,2;", false},
+                             {",30,50;,40,60;", "", true},
+                             {",30,50;\n,30,60;", "", true},
+                             {",30,50;\n,40,50;", "", true},
+                             {",30,50;,30,50;", "", true},
+                             {sound, ",30,1;,30,2;", true},
+                             {sound, ",30,1;,40,1;", true},
+                             {sound, ",40,1;\n,30,1;", true}}) {
+        folder.Write("records.csv",
+                     Replaced("PVTO,\n" + r.oil + "Units\nPVTG,\n" + r.gas, ";", ",1,1\n"));
+        EXPECT_EQ(Contains(Tool("blackoil convert records.csv -").messages, "[tool.record-order]"),
+                  r.areTold)
+            << r.oil << r.gas;
+        EXPECT_FALSE(Contains(Tool("blackoil convert records.csv out.csv").messages, "[tool.rec"));
+    }
+}
+
 TEST_F(ToolTest, ReadsWhatThereIsAndTellsWhatIsNone) {
     folder.Write("good.csv", blackOil);
     std::filesystem::create_directory(folder / "folder");

@@ -134,6 +134,58 @@ void WarnUnlessPressureRises(Call& call, const BlackOilDataRecords& records, con
     }
 }
 
+// How keywords have the rows of a phase: each record has one value, which only its first row shows.
+struct RecordForm {
+    double (BlackOilDataRecords::*ofRecord)(std::uint64_t, std::uint64_t) const;
+    double (BlackOilDataRecords::*ofRow)(std::uint64_t, std::uint64_t) const;
+    bool doRowsRise;
+    const char* expected;
+};
+constexpr RecordForm liveOilForm{
+    &BlackOilDataRecords::GetProperty, &BlackOilDataRecords::GetPressure, true,
+    "a record for each gas-oil ratio, by rising ratio and pressure, and its rows by "
+    "rising pressure, as a table of live oil"};
+constexpr RecordForm wetGasForm{&BlackOilDataRecords::GetPressure,
+                                &BlackOilDataRecords::GetProperty, false,
+                                "a record for each pressure, by rising pressure, and its rows by "
+                                "falling oil-gas ratio, as a table of wet gas"};
+
+// The same rules as the reader of keywords has.
+bool IsInForm(const BlackOilDataRecords& records, const RecordForm& form) {
+    std::optional<std::pair<double, double>> previous; // of the first row of a record
+    for (std::uint64_t i = 0; i < records.GetTableSize(); ++i) {
+        const auto row = [&](std::uint64_t j) {
+            return std::pair((records.*form.ofRecord)(i, j), (records.*form.ofRow)(i, j));
+        };
+        const std::uint64_t rows = records.GetRecordContentSize(i);
+        if (rows == 0) {
+            continue;
+        }
+        const auto first = row(0);
+        if (previous && (first.first <= previous->first ||
+                         (form.doRowsRise && first.second <= previous->second))) {
+            return false;
+        }
+        previous = first;
+        for (std::uint64_t j = 1; j < rows; ++j) {
+            const double step = row(j).second - row(j - 1).second;
+            if (row(j).first != first.first || (form.doRowsRise ? step <= 0.0 : step > 0.0)) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+void WarnUnlessInForm(Call& call, const BlackOilDataRecords& records, const RecordForm& form) {
+    if (!IsInForm(records, form)) {
+        call.Told().Tell(ToolKinds::recordOrder, call.Operand(0),
+                         std::string("Expected ") + form.expected +
+                             " has them, found others; of a record the first row alone shows its "
+                             "value. An empty line ends a record.");
+    }
+}
+
 bool IsEmpty(const BlackOilDataRecords& records) {
     return records.GetTableSize() == 0;
 }
@@ -291,6 +343,12 @@ void Convert(Call& call) {
     for (BlackOilTable& region : regions) {
         MoveRows(region, choice, call);
         WarnOfSaturationPoint(region, choice, call);
+        if (!toCsv && !IsDead(choice)) {
+            WarnUnlessInForm(call, region.GetLiveOilData(), liveOilForm);
+        }
+        if (!toCsv && !IsDry(choice)) {
+            WarnUnlessInForm(call, region.GetWetGasData(), wetGasForm);
+        }
     }
     call.Write(out, [&](std::ostream& stream) {
         const Writer writer(call.Asked().Has(Options::highPrecision));

@@ -33,6 +33,7 @@ inline constexpr ToolKind otherUnits     {"tool.other-units", Error};
 inline constexpr ToolKind waterDensity   {"tool.water-density", Warning};
 inline constexpr ToolKind noSaturationPoint{"tool.no-saturation-point", Warning};
 inline constexpr ToolKind pressureOrder  {"tool.pressure-order", Warning};
+inline constexpr ToolKind recordOrder    {"tool.record-order", Warning};
 inline constexpr ToolKind noTemperature  {"tool.no-temperature", Warning};
 inline constexpr ToolKind longLine       {"tool.long-line", Warning};
 inline constexpr ToolKind noMemory       {"tool.no-memory", Error};
