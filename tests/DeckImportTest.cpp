@@ -555,6 +555,33 @@ TEST_F(DeckImportTest, TellsWhatIsNotAsItSeems) {
     }
 }
 
+TEST_F(DeckImportTest, KnowsEachWordOfItsTables) {
+    // Keywords of others are no typing errors.
+    for (const std::string other :
+         {"ACFW",   "CNAMESW", "LSCRITS", "PCRITW", "RSSPEC", "SPECHEAT", "TCRITW", "VCRITW",
+          "ZCRITW", "AMFVD",   "COMPL",   "COMPW",  "CVCRIT", "EGRID",    "INSPEC", "LBCCOEFR",
+          "MATRIX", "RGRID",   "RTEMPA",  "SPECHC", "SPECHD", "SPECHS",   "SPECHT", "STEMP",
+          "TEMP",   "TNAMES",  "TTEMP",   "WNAMES", "WTEMP",  "XMFVD",    "YIELD",  "YMFVP"}) {
+        EXPECT_EQ(ReadText(other + "\n1 2 /\n" + sound).told, "") << other;
+    }
+    // Letters of another alphabet that look the same, in words with all the errors that may be.
+    for (const std::string word :
+         {"\u0410CF", "\u0412IC", "\u0415OS", "Z\u0406", "\u041ACRIT", "\u041CW", "S\u041DFT",
+          "E\u041ES", "\u0420CRI", "A\u0421F", "\u0422CRI", "\u0425CRIT", "EO\u0405"}) {
+        EXPECT_EQ(ReadText(word + "\n1 2 /\n" + sound).told, "1:did-you-mean") << word;
+    }
+    for (const std::string keyword : {"MW", "PCRIT", "TCRIT", "OMEGAA", "OMEGAB", "VCRIT", "ZCRIT",
+                                      "ACF", "PARACHOR", "SSHIFT", "VCRITVIS", "ZCRITVIS"}) {
+        const Outcome deck = ReadText("CNAMES\nC1 C2 C3 /\n" + keyword + "\n2* .1 /\n");
+        EXPECT_NE(deck.told.find("3:values-missing"), std::string::npos) << keyword << deck.told;
+    }
+    for (const std::string name :
+         {"\u2018C", "C\u2019", "\u201CC", "C\u201D", "C;D", "C\u00A0D", "C,1", "1,D"}) {
+        EXPECT_TRUE(ReadText("CNAMES\n" + name + " /\n").told.starts_with("1:joined-names "))
+            << name;
+    }
+}
+
 // Each is entered from one of the other kind.
 TEST_F(DeckImportTest, KnowsTheSectionsThatMayHoldFluidData) {
     const std::string others = twoComponents + rest.substr(rest.find("PCRIT"));

@@ -2,6 +2,7 @@
 #include "DeckUnitSystems.h"
 #include "FluidBench/Common/Exceptions.h"
 #include "Kes/Core/Service/Measurements/UnitManager.h"
+#include "Kes/KesModel/Log.h"
 #include "Kes/SimFluid/StdTracerModel.h"
 #include "PVOCompositionalModelAdaptor.h"
 #include "PVOFluidModelsAdaptor.h"
@@ -10,7 +11,9 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <iostream>
 #include <limits>
+#include <sstream>
 #include <stdexcept>
 
 using namespace Orv::FluidBench;
@@ -299,22 +302,57 @@ TEST(DeckStoreTest, TheSimulatorsTablesRefusePlacesThatTheyLack) {
     table.addRow(1000.0);
     table.setValue(0, 1, 0.25);
     EXPECT_EQ(table.getValue(0, 1), 0.25);
-    EXPECT_THROW(table.getValue(1, 0), std::out_of_range);
-    EXPECT_THROW(table.getValue(0, 2), std::out_of_range);
-    EXPECT_THROW(table.getDepth(-1), std::out_of_range);
-
     StdTracerModel tracer("T");
     tracer.makeDepthTable(2);
-    EXPECT_EQ(tracer.getNumOfDepthTables(), 1);
-    EXPECT_EQ(tracer.getNumOfDepthTablesOfType(2), 1);
-    EXPECT_THROW(tracer.getDepthTable(2, 1), std::out_of_range);
-    EXPECT_THROW(tracer.getDepthTable(1, 0), std::out_of_range);
-    tracer.deleteDepthTable(2, 0);
-    EXPECT_FALSE(tracer.hasDepthTablesOfType(2));
-
+    tracer.makeDepthTable(2).clear(3);
+    EXPECT_EQ(tracer.getNumOfDepthTables(), 2);
+    EXPECT_EQ(tracer.getNumOfDepthTablesOfType(2), 2);
+    EXPECT_EQ(tracer.getNumOfDepthTablesOfType(1), 0);
     StdWaterProperties water;
     water.makeBrineComponent("NaCl");
     EXPECT_EQ(water.getBrineComponent(0).getName(), "NaCl");
-    EXPECT_THROW(water.getBrineComponent("KCl"), std::invalid_argument);
+    StdTemperatureTable temperatures;
+    temperatures.setNumTemperatures(1);
+    temperatures.setNumComponents(2);
+    temperatures.setProperty(0, 1, 0.5);
+    EXPECT_EQ(temperatures.getProperty(0, 1), 0.5);
+    const std::pair<const char*, std::function<void()>> refused[] = {
+        {"A depth table has no row 1", [&] { table.getValue(1, 0); }},
+        {"A depth table has no row -1", [&] { table.getDepth(-1); }},
+        {"A depth table has no column 2", [&] { table.getValue(0, 2); }},
+        {"A depth table has no column -1", [&] { table.setValue(0, -1, 1.0); }},
+        {"A depth table can't have -1 columns", [&] { table.clear(-1); }},
+        {"The tracer has no depth table 2 of type 2", [&] { tracer.getDepthTable(2, 2); }},
+        {"The tracer has no depth table -1 of type 2", [&] { tracer.getDepthTable(2, -1); }},
+        {"The tracer has no depth table 0 of type 1", [&] { tracer.deleteDepthTable(1, 0); }},
+    };
+    for (const auto& [text, call] : refused) {
+        EXPECT_EQ(TextOf<std::out_of_range>(call), text);
+    }
+    EXPECT_EQ(TextOf<std::invalid_argument>([&] { water.getBrineComponent("KCl"); }),
+              "The brine has no component called 'KCl'");
     EXPECT_THROW(water.getBrineComponent(1), std::out_of_range);
+    EXPECT_THROW(temperatures.getProperty(1, 0), std::out_of_range);
+    tracer.deleteDepthTable(2, 0);
+    EXPECT_EQ(tracer.getNumOfDepthTables(), 1);
+    tracer.deleteDepthTable(2, 0);
+    EXPECT_FALSE(tracer.hasDepthTablesOfType(2));
+}
+
+TEST(DeckStoreTest, TheDefaultLoggerWritesUpToItsSeverity) {
+    using Orv::Kes::KesModel::DefaultLogger;
+    using Orv::Kes::KesModel::Log;
+    const auto written = [](int most) {
+        DefaultLogger logger;
+        logger.setMaxSeverity(static_cast<Log::Severity>(most));
+        std::ostringstream text;
+        auto* const previous = std::cerr.rdbuf(text.rdbuf());
+        for (int severity = 0; severity < 5; ++severity) {
+            logger.write(static_cast<Log::Severity>(severity), "x");
+        }
+        std::cerr.rdbuf(previous);
+        return text.str();
+    };
+    EXPECT_EQ(written(4), "fatal: x\nerror: x\nwarning: x\nnote: x\ndebug: x\n");
+    EXPECT_EQ(written(1), "fatal: x\nerror: x\n");
 }

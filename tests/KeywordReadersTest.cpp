@@ -636,6 +636,10 @@ TEST(ThermalKeywords, WhatIsMissingTwiceOrTooShort) {
     EXPECT_EQ(partly.result.MolecularWeights, (std::vector<double>{17.0, 0.0}));
     EXPECT_NEAR(partly.result.SpecificHeatB.at(0), 0.17, 1e-12);
     EXPECT_NEAR(partly.result.SpecificHeatA.at(0), 17 * 3 - 0.17 * 273.15, 1e-10);
+    // No numbers give that value to its last digit; the slope is right all the same.
+    const Outcome<IO::ThermalKeywordReader, ThermalExportTable> absurd(
+        head + "STCOND\n1e30 1 /\nSPECHG\n2*3 /\nSPECHH\n2*.01 /\n" + metric, std::nullopt);
+    EXPECT_NEAR(absurd.result.SpecificHeatB.at(0), 0.16, 1e-12);
     EXPECT_NE(partly.sentences.find("the line through them"), std::string::npos);
     EXPECT_NE(partly.sentences.find("it has no heat capacity"), std::string::npos);
 }

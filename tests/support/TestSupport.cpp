@@ -68,8 +68,8 @@ void ExpectSentence(const std::string& code, const std::string& sentence) {
         }
         return lines;
     }();
-    static const std::regex folder("/[^']*/fluidbench-[0-9]+");
-    std::string line = code + ": " + std::regex_replace(sentence, folder, "FOLDER");
+    static const std::regex path("'/[^']+'");
+    std::string line = code + ": " + std::regex_replace(sentence, path, "'PATH'");
     std::ranges::replace_if(
         line, [](char c) { return static_cast<unsigned char>(c) > 0x7F; }, '?');
     EXPECT_TRUE(known.contains(line)) << "Not in tests/data/sentences.txt:\n" << line << '\n';

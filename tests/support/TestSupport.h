@@ -41,8 +41,8 @@ std::string DataPath(const std::string& name);
 std::string ReadData(const std::string& name);
 
 /// Expects the sentence of a diagnostic to be, behind its code, a line of
-/// tests/data/sentences.txt, to which a new one is added once somebody has read it. The folder of a
-/// test stands as FOLDER there, and other characters than those of ASCII as question marks.
+/// tests/data/sentences.txt, to which a new one is added once somebody has read it. A whole path
+/// stands as PATH there, and other characters than those of ASCII as question marks.
 void ExpectSentence(const std::string& code, const std::string& sentence);
 
 /// The message numbers of a report, in order.
