@@ -94,6 +94,14 @@ TEST_F(PlotTest, DrawsWhatItIsAskedFor) {
         {"depth plot depth.csv --title 'By depth' --size 500x400", "tool/depth.svg"},
         {"envelope plot envelope.csv --x-range 20:60", "tool/envelope.svg"},
         {"envelope plot hydrates.csv", "tool/hydrates.svg"},
+        {"envelope plot @separator-train-envelopes.txt @rich-gas-envelope.csv --show-units field",
+         "tool/envelopes.svg"},
+        {"kvalues plot @two-temperatures-k-values.inc kvalues.csv --show-units field --y-range "
+         "0.01:10 --size 400x300",
+         "tool/kvalues-two.svg"},
+        {"depth plot @north-flank-depth.inc --show-units field", "tool/depth-field.svg"},
+        {"blackoil plot @two-region-black-oil.inc oil.csv --x-range 0:200",
+         "tool/blackoil-regions.svg"},
     };
     for (const auto& [arguments, picture] : whole) {
         EXPECT_EQ(Draw(arguments), ReadData(picture)) << arguments;

@@ -135,6 +135,27 @@ TEST_F(ToolTest, ShowsConvertsAndCompares) {
         {"kvalues show @two-temperatures-k-values.inc", 0, "kvalues-show-temperatures.txt"},
         {"thermal show @two-component-thermal.inc --csv", 0, "thermal-show.csv"},
         {"envelope show @separator-train-envelopes.txt", 0, "envelope-show-samples.txt"},
+        {"blackoil show @two-region-black-oil.inc", 0, "blackoil-show-regions.txt"},
+        {"blackoil show @reservoir-black-oil.csv --csv --show-units field", 0,
+         "blackoil-show-field.csv"},
+        {"blackoil diff two-region-black-oil.inc reservoir-black-oil.csv --show-units field", 1,
+         "blackoil-diff-field.txt"},
+        {"kvalues show @two-temperatures-k-values.inc --csv --show-units field", 0,
+         "kvalues-show-field.csv"},
+        {"kvalues diff two-temperatures-k-values.inc kvalues.csv --show-units field", 1,
+         "kvalues-diff-field.txt"},
+        {"thermal convert thermal.csv - --to-units field", 0, "thermal-convert-field.txt"},
+        {"depth show @north-flank-depth.inc --csv --show-units field", 0, "depth-show-field.csv"},
+        {"depth convert depth.csv -", 0, "depth-convert.txt"},
+        {"deck show @reservoir-oil-field.dat --csv --show-units field", 0, "deck-show-field.csv"},
+        {"deck diff reservoir-oil-field.dat deck.dat --show-units field", 1, "deck-diff-field.txt"},
+        {"deck convert deck.dat - --temperature 100C", 0, "deck-convert.dat"},
+        {"mfl show @six-component-oil.mfl --show-units field", 0, "mfl-show-field.txt"},
+        {"compositions show @north-flank-compositions.inc --show-units field", 0,
+         "compositions-show-field.txt"},
+        {"envelope show @separator-train-envelopes.txt --show-units field", 0,
+         "envelope-show-field.txt"},
+        {"dfa convert w_DFA.txt - --ft w_FT.txt --to-units field", 0, "dfa-convert-field.csv"},
         {"help", 0, "help.txt"},
         {"help blackoil convert", 0, "help-blackoil-convert.txt"},
         {"help --man", 0, "help.1"},
@@ -142,7 +163,7 @@ TEST_F(ToolTest, ShowsConvertsAndCompares) {
         {"help --zsh", 0, "help.zsh"},
     };
     folder.Write("nothing", "");
-    ASSERT_EQ(Shell("cp '" + DataPath("tool") + "'/* .").status, 0);
+    ASSERT_EQ(Shell("cp '" + DataPath("tool") + "'/* @two* @reservoir* .").status, 0);
     for (const Golden& c : cases) {
         const Outcome run = Tool(c.arguments);
         EXPECT_EQ(run.status, c.status) << c.arguments;
