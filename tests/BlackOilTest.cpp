@@ -1,9 +1,9 @@
 // Black-oil tables as keywords and as CSV, and reading CSV back.
-#include "BlackOilFormatters.h"
 #include "Diagnosed.h"
 #include "TestSupport.h"
 #include "io/BlackOilExportFileWriter.h"
 
+#include <limits>
 #include <sstream>
 #include <stdexcept>
 
@@ -119,20 +119,19 @@ TEST_F(BlackOil, HighPrecision) {
 }
 
 TEST_F(BlackOil, NarrowCellsAreFilledUpToTheirWidth) {
-    std::ostringstream out;
-    out.imbue(ForeignLocale());
-    out << std::fixed;
-    out.precision(1);
-    IO::PVOFormatter wet(Units::METRIC, Writer::LIVE_OIL_WET_GAS);
-    IO::PVOFormatter dry(Units::METRIC, Writer::DEAD_OIL_DRY_GAS);
-    wet.OilTableEntry(out, 1234e5, 50.0, 1.2, 0.5e-3, true);
-    wet.GasTableEntry(out, 1234e5, 0.1, 0.2, 0.3e-3, true);
-    dry.GasTableEntry(out, 1234e5, 0.1, 0.2, 0.3e-3, true);
-    dry.SurfaceDensities(out, 800.0, 1000.0, 1.2);
-    EXPECT_EQ(out.str().substr(0, out.str().find('-')), "\t    50.0\t  1234.0\t     1.2\t     0.5"
-                                                        "\t  1234.0\t0.1\t     0.2\t     0.3"
-                                                        "\t  1234.0\t\t     0.2\t     0.3");
-    EXPECT_NE(out.str().find("\n       800.0\t1000.0\t1.2\n"), std::string::npos);
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    BlackOilTable table;
+    table.SetOilDensity(infinity);
+    const BlackOilDataRecords records = Records({{{infinity, infinity, infinity, infinity}}});
+    table.SetLiveOilData(records);
+    table.SetWetGasData(records);
+    table.SetDryGasData(records);
+    const std::string wet = Export(Units::METRIC, Writer::LIVE_OIL_WET_GAS, Writer::PVO, table);
+    const std::string dry = Export(Units::METRIC, Writer::LIVE_OIL_DRY_GAS, Writer::PVO, table);
+    EXPECT_NE(wet.find("\n         inf\t1000.00000000\t"), std::string::npos);
+    EXPECT_NE(wet.find("\n\t     inf\t     inf\t     inf\t     inf\t/"), std::string::npos);
+    EXPECT_NE(wet.find("\n\t     inf\tinf\t     inf\t     inf\t/"), std::string::npos);
+    EXPECT_NE(dry.find("\n\t     inf\t\t     inf\t     inf\n"), std::string::npos);
 }
 
 TEST_F(BlackOil, CompositionsAgainstPressure) {
