@@ -50,6 +50,7 @@ constexpr const char* onePoint = "ODEN,800\nWDEN,1000\nGDEN,1\nRSCONST,50\nPSAT,
 
 TEST_F(PlotTest, DrawsWhatItIsAskedFor) {
     folder.Write("one.csv", onePoint);
+    folder.Write("rv.inc", "RVVD\n2000 .0001\n2100 .0002\n/\nFILEUNIT\nMETRIC /\n");
     struct Case {
         const char* arguments;
         std::vector<const char*> has; // texts and elements
@@ -69,6 +70,9 @@ TEST_F(PlotTest, DrawsWhatItIsAskedFor) {
         {"kvalues plot @six-component-k-values.csv --y-range 0.01:10 --size 400x300",
          {"width=\"400\" height=\"300\"", ">0.01<", "clip-path"},
          {">1e-05<"}},
+        {"depth plot rv.inc @north-flank-depth.inc --contact 2050",
+         {">100<", ">10000<", ">rv.inc<", ">contact<", ">component 3<"},
+         {">20000<"}},
         {"depth plot @depth-run.csv", {">contact<", ">Depth (m)<", ">10000<", ">C20<"}, {"clip"}},
         {"envelope plot @rich-gas-envelope.csv",
          {">0.7<", ">0.8<", ">0.9<", ">0.95<", ">22.76 \u00B0C, 204.7 bar<"},
@@ -142,12 +146,6 @@ TEST_F(PlotTest, RefusesWhatItCantDraw) {
     const Case cases[] = {
         {"blackoil plot a.svg b.png", 2, "The picture is an SVG file"},
         {"blackoil plot a.svg", 2, "OUT.svg is missing."},
-        {"blackoil plot a.svg b.svg --size 100x100", 2, "--size takes a width and a height"},
-        {"blackoil plot a.svg b.svg --size 800", 2, "--size takes a width and a height"},
-        {"blackoil plot a.svg b.svg --x-range 5:1", 2, "--x-range takes two numbers"},
-        {"blackoil plot a.svg b.svg --x-range 5", 2, "--x-range takes two numbers"},
-        {"kvalues plot @six-component-k-values.csv b.svg --y-range 0:1", 2,
-         "--y-range takes numbers above zero here"},
         {"blackoil plot a.svg a.svg", 1, "Expected another file than the one that is read"},
         {"blackoil plot @reservoir-black-oil.csv a.svg ./a.svg", 1,
          "Expected another file than the one that is read"},
