@@ -284,6 +284,8 @@ TEST_F(DeckImportTest, TellsWhatIsWrongAndLeavesABlankFluid) {
                                   "found '2*30' behind 1 of them."},
         {c12 + "MW\n1000000000*1 /\n", "4: Keyword MW: expected as many numbers as components "
                                        "(2), found '1000000000*1' behind 0 of them."},
+        {c12 + "MW\n4194305*1 /\nMW\n16 30 /\n",
+         "4: Keyword MW: expected numbers, found '4194305*1' behind 0 of them."},
         {c12 + "ZMFVD\n1000000000* /\n", "4: Keyword ZMFVD: expected rows of a depth and 2 "
                                          "fractions, found '1000000000*' behind 0 of them."},
         {c12 + "ZMFVD\n1 .5 .5 2 .5 /\n", "4: Keyword ZMFVD: expected rows of a depth and 2 "
@@ -576,7 +578,7 @@ TEST_F(DeckImportTest, KnowsEachWordOfItsTables) {
         EXPECT_NE(deck.told.find("3:values-missing"), std::string::npos) << keyword << deck.told;
     }
     for (const std::string name :
-         {"\u2018C", "C\u2019", "\u201CC", "C\u201D", "C;D", "C\u00A0D", "C,1", "1,D"}) {
+         {"\u2018C", "C\u2019", "\u201CC", "C\u201D", "C;D", "C\u00A0D", "C,1", "1,D", ",C"}) {
         EXPECT_TRUE(ReadText("CNAMES\n" + name + " /\n").told.starts_with("1:joined-names "))
             << name;
     }
