@@ -420,6 +420,7 @@ TEST(BlackOilKeywords, TextsThatPeopleType) {
         {densities + "pvdo\n100 1 1 /\n  PVDO\n200 1 1 / PVTO\nPVTO /\n/\n", "[800 0]",
          "3:not-taken 5:not-taken 7:no-rows 8:no-rows"},
         {densities + "  PVDO\n200 1 1 /\n", "[800 0 dead 200;]", ""},
+        {densities + "PVDO\n200 1 1 / PVDG\n", "[800 0 dead 200;]", "4:not-taken"},
         {"DENSITY\n800 2* /\nPVDO\n100 1 1 /\nSKIP\n", "[800 0 dead 100;]",
          "2:default-is-zero 5:skip-not-closed"},
         {"PVDO\n100 1 1 /", "[0 0 dead 100;]", "0:no-densities"},
@@ -498,6 +499,22 @@ TEST(BlackOilKeywords, WhatIsRefused) {
     EXPECT_EQ(outcome.report.GetMessages().front().GetText(),
               "line 5, keyword PVTO: expected a gas-oil ratio, a pressure, a volume factor and a "
               "viscosity, found '/' behind 1 of them.");
+}
+
+TEST(BlackOilKeywords, EachUnitInACommentContradictsTheOtherSystem) {
+    const std::string metricUnits[] = {"bar", "barsa", "K",  "m",  "m3",
+                                       "sm3", "rm3",   "kg", "kJ", "Metric"};
+    const std::string fieldUnits[] = {"psi", "psia", "R",  "ft",  "Mscf",
+                                      "stb", "rb",   "lb", "Btu", "Field"};
+    for (const bool isField : {false, true}) {
+        for (const std::string& unit : isField ? fieldUnits : metricUnits) {
+            const std::string text = "-- Units: " + unit + '\n' + densities;
+            const BlackOilOutcome same(text, isField ? Units::FIELD : Units::METRIC);
+            const BlackOilOutcome other(text, isField ? Units::METRIC : Units::FIELD);
+            EXPECT_EQ(same.told, "") << unit;
+            EXPECT_EQ(other.told, "1:units-contradicted") << unit;
+        }
+    }
 }
 
 TEST(BlackOilKeywords, ATableThatIsCutAnywhere) {

@@ -119,6 +119,16 @@ TEST_F(PlotTest, PutsThingsWhereTheyBelong) {
     const std::string kvalues = Draw("kvalues plot @six-component-k-values.csv");
     const double decade = PlaceOf(kvalues, "0.001", 'y') - PlaceOf(kvalues, "0.1", 'y');
     EXPECT_NEAR(PlaceOf(kvalues, "1e-05", 'y') - PlaceOf(kvalues, "0.001", 'y'), decade, 0.2);
+    // The number of a vapour fraction that is alone stands in the middle of its curve.
+    std::string quality = "Flash: \nSource: \nUnits: \n\nBubble,,Dew,,Critical point,,Vapour,0.5,"
+                          "\nT,P,T,P,T,P,T,P,\n";
+    for (int i = 1; i < 10; ++i) {
+        quality +=
+            " , , , , , ," + std::to_string(263 + 10 * i) + ".15," + std::to_string(i) + "e5,\n";
+    }
+    folder.Write("q.csv", quality);
+    const std::string fraction = Draw("envelope plot q.csv");
+    EXPECT_NEAR(PlaceOf(fraction, "0.5", 'x'), PlaceOf(fraction, "40", 'x'), 0.1);
     // Each record of the oil is a branch of its own; the saturated entries are a curve together.
     const std::string oil = Draw("blackoil plot @reservoir-black-oil.csv");
     EXPECT_EQ(CountOf(oil, "<polyline"), 3U * (4 + 1) + 3U * (3 + 1));
