@@ -200,16 +200,14 @@ TEST_F(DfaTest, TellsOfWellsAndValues) {
     EXPECT_EQ(Depths(), "A: 1; B: 2; A: -999 3");
 
     reader = DFAReader();
-    const auto times = [](std::size_t count, const std::string& text) {
-        std::string all;
-        for (std::size_t i = 0; i < count; ++i) {
-            all += text;
-        }
-        return all;
-    };
-    ASSERT_TRUE(Import(header + "1 \"A\"" + times(8, " -2") + " \"S\"" + times(12, " -2") + '\n',
-                       header + PressureRow("A", "-2", "-3")));
-    EXPECT_EQ(told, times(10, "3:negative-value ") + "FT3:negative-value FT3:negative-value");
+    std::string negative = "1 \"A\"";
+    std::string expected;
+    for (int column = 0; column < 20; ++column) {
+        negative += (column == 8 ? " \"S\" -" : " -") + std::to_string(column + 1);
+        expected += column % 2 == 0 ? "3:negative-value " : "";
+    }
+    ASSERT_TRUE(Import(header + negative + '\n', header + PressureRow("A", "-1", "-3")));
+    EXPECT_EQ(told, expected + "FT3:negative-value FT3:negative-value") << "ten of them are read";
 
     reader = DFAReader();
     const std::string row = MainRow("A", "5");
