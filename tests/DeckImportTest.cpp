@@ -490,6 +490,11 @@ TEST_F(DeckImportTest, TakesALineAlikeInEveryPlace) {
     }
 }
 
+TEST_F(DeckImportTest, NotesTheKeywordsThatItPassesOver) {
+    EXPECT_EQ(ReadText("Some text\nSWFN\n1 2 /\nOIL AND GAS\nSWOF of text\n" + sound).notes,
+              "2: Keyword 'SWFN' is passed over.\n4: Keyword 'OIL' is passed over.\n");
+}
+
 // What is told of a deck as a whole, and which values it has all the same.
 TEST_F(DeckImportTest, TellsWhatIsNotAsItSeems) {
     folder.Write("utf16.inc", std::string("\xFF\xFE"

@@ -132,7 +132,8 @@ TEST_F(DepthTables, TheContactAmongTheStages) {
         {2100, {2100, 2000}, "PDVD | PBVD 2100 2000"},      // there already, and nothing sorted
         {2001, {2000, 2100}, "PDVD 2000 | PBVD 2100"},      // there within 0.1 %, but not reached
         {2099, {2000, 2100}, "PDVD 2000 | PBVD 2100"},
-        {2000.0009, {2000, 2100}, "PDVD | PBVD 2000 2100"}, // reached within 1 mm
+        {2002.003, {2000, 2100}, "PDVD 2000 | PBVD 2002 2100"}, // just beyond
+        {2000.0009, {2000, 2100}, "PDVD | PBVD 2000 2100"},     // reached within 1 mm
         {2000.0011, {2000, 2100}, "PDVD 2000 | PBVD 2100"},
         {2050, {nan, 2000, nan, 2100}, "PDVD 2000 | PBVD 2050 2100 nan nan"},
     };

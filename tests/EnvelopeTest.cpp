@@ -348,6 +348,15 @@ TEST_F(EnvelopeTest, WritesEveryKindOfLine) {
     EXPECT_EQ(Written(plots, true), expected);
     EXPECT_EQ(Written({}, true), "");
 
+    const std::pair<int, const char*> numbered[] = {
+        {13, "PX2"}, {14, "PX3"}, {15, "TX2"}, {16, "TX3"}};
+    for (const auto& [phase, name] : numbered) {
+        CommonPlottingObject alone(AxisType::Temperature, AxisType::Pressure);
+        alone.AddLine(LineOf(phase, {{1, 2}}));
+        EXPECT_NE(Written({alone}, true).find(headings + name + ",1,\n"), std::string::npos)
+            << name;
+    }
+
     const PhaseEnvelopeReaderWriter writer(true);
     std::ostringstream out;
     out.imbue(FluidBenchTest::ForeignLocale());

@@ -16,6 +16,7 @@
 #include <rapidcheck/gtest.h>
 #endif
 
+#include <algorithm>
 #include <memory>
 #include <sstream>
 
@@ -754,6 +755,8 @@ TEST(KeywordFiles, EveryKeywordTellsWhatItHas) {
             << keyword;
     }
     EXPECT_EQ(Thermal(names + names, Units::METRIC).told, "3:name-twice");
+    const std::string missing = Thermal(names, Units::METRIC).told;
+    EXPECT_EQ(std::ranges::count(missing, ':'), 18) << "each but those of the fit together";
 }
 
 // Writers of several tables: what is read comes back whole, and one alone is the one of old.
