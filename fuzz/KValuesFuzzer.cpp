@@ -45,7 +45,11 @@ struct KValues {
         }
         return names;
     }
+    // Each table has headings of its own: thousands of tables only take their time.
     static std::vector<Tables> Parts(Tables tables) {
+        if (tables.size() > 2000) {
+            return {};
+        }
         for (Model::KValuesTable& table : tables) {
             if (!std::ranges::all_of(table.GetComponents(), ComesBack)) {
                 return {};

@@ -153,9 +153,11 @@ void RequireColumns(const Columns& ofFile, const Columns& ofObject, double relat
         first.resize(size);
         second.resize(size);
         for (std::size_t i = 0; i < size; ++i) {
-            Require(AreClose(first[i], second[i], relative, absolute),
-                    promise + ": number " + std::to_string(i + 1) + " of " + keyword + " is " +
-                        Shown(second[i]) + " in place of " + Shown(first[i]));
+            if (!AreClose(first[i], second[i], relative, absolute)) {
+                throw BrokenPromise(promise + ": number " + std::to_string(i + 1) + " of " +
+                                    keyword + " is " + Shown(second[i]) + " in place of " +
+                                    Shown(first[i]));
+            }
         }
     }
 }
