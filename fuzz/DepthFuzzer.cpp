@@ -12,8 +12,8 @@ using Tables = std::vector<IO::DepthTable>;
 struct Depth {
     using Reader = IO::DepthTableReader;
     using Object = Tables;
-    static constexpr double relative = 6e-6; // six digits
-    static constexpr double absolute = 0.0;
+    static constexpr double relative = 6e-6;   // six digits
+    static constexpr double absolute = 1e-100; // below which units lose digits
     static inline const std::vector<std::string_view> otherwiseRead = {};
     static inline const std::vector<std::string> keywords = {"ZMFVD", "PBVD",   "PDVD",  "RSVD",
                                                              "RVVD",  "NCOMPS", "CNAMES"};

@@ -696,6 +696,7 @@ TEST(DepthAndCompositionKeywords, RowsOfFractions) {
         {"ZMFVD\n2000 .7 .3\n2100 .6 /\n", "", "3:row-length"},
         {"ZMFVD\n2000 1000000000*.7 /\n", "", "2:repeat-count"},
         {"NCOMPS\n2 /\nCNAMES\nC1 /\nZMFVD\n2000 1 /\n", "", "4:count-differs"},
+        {"NCOMPS\n0 /\nZMFVD\n2000 .7\n2100 .6 /\n", "", "4:row-length"},
         {"PDVD\n2000 90 2100 /\n", "", "2:row-length"},
     };
     for (const Case& each : cases) {

@@ -32,6 +32,9 @@ FractionRows FractionReader::ReadTable() {
     }
     const RowEnd end = components_ ? RowEnd::Number : RowEndOf(items);
     const std::uint64_t width = components_ ? *components_ + 1 : WidthOf(items, end);
+    if (width == 1) {
+        walker_.Fail(KeywordKinds::rowLength, items.front().line, Meaning(), "no fractions");
+    }
     const auto require = [&](bool isTrue, const Item& item, std::uint64_t count) {
         if (!isTrue) {
             walker_.Fail(KeywordKinds::rowLength, item.line,
