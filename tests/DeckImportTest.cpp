@@ -530,6 +530,7 @@ TEST_F(DeckImportTest, TellsWhatIsNotAsItSeems) {
          {16, 30},
          "16:include-missing 18:include-missing"},
         {mw + "GRID\nFILEUNIT\nFIELD /\nFILEUNIT\nLAB /\n", {16, 30}, "16:other-units"},
+        {mw + "GRID\nFILEUNIT\nLAB /\nFILEUNIT\nFIELD /\n", {16, 30}, "18:other-units"},
         {mw + "GRID\nPORPS\nMW\n17 31 /\n'PROPS' /\n", {16, 30}, "16:did-you-mean"},
         {mw + "GRID\nDX\n1 2\nPROPS\nMW\n17 31 /\n",
          {16, 30},

@@ -311,6 +311,8 @@ TEST(DeckStoreTest, TheSimulatorsTablesRefusePlacesThatTheyLack) {
     StdWaterProperties water;
     water.makeBrineComponent("NaCl");
     EXPECT_EQ(water.getBrineComponent(0).getName(), "NaCl");
+    EXPECT_TRUE(water.hasBrineComponent("NaCl"));
+    EXPECT_FALSE(water.hasBrineComponent("KCl"));
     StdTemperatureTable temperatures;
     temperatures.setNumTemperatures(1);
     temperatures.setNumComponents(2);

@@ -154,7 +154,7 @@ TEST_F(ToolTest, ShowsConvertsAndCompares) {
         {"depth convert depth.csv -", 0, "depth-convert.txt"},
         {"deck show @reservoir-oil-field.dat --csv --show-units field", 0, "deck-show-field.csv"},
         {"deck diff reservoir-oil-field.dat deck.dat --show-units field", 1, "deck-diff-field.txt"},
-        {"deck convert deck.dat - --temperature 100C", 0, "deck-convert.dat"},
+        {"deck convert deck.dat - --temperature '100 C'", 0, "deck-convert.dat"},
         {"mfl show @six-component-oil.mfl --show-units field", 0, "mfl-show-field.txt"},
         {"compositions show @north-flank-compositions.inc --show-units field", 0,
          "compositions-show-field.txt"},
