@@ -108,6 +108,7 @@ std::optional<PlainFile> ReadPlainly(std::string_view text,
                 if (i + 1 < words.size() && !passesOthers) {
                     return std::nullopt;
                 }
+                keyword = keyword == "FILEUNIT" ? "" : keyword; // what is behind it says no units
                 break;
             } else if (keyword == "CNAMES" && isWanted) {
                 if (!IsPlainName(word)) {
