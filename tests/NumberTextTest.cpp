@@ -114,12 +114,17 @@ TEST(NumberText, ReadsLeadingNumbersAsTheCLibraryDoes) {
                                  "1,5",
                                  "1 2"};
     for (const char* const text : texts) {
-        EXPECT_EQ(ParseAsAtof(text), std::atof(text)) << text;
-        EXPECT_EQ(std::signbit(ParseAsAtof(text)), std::signbit(std::atof(text))) << text;
+        // What std::atof gives everywhere but on Windows, where it knows decimals alone, and where
+        // the sign of what is no number stays.
+        char* end = nullptr;
+        const double number = std::strtod(text, &end);
+        const double expected = end == text ? 0.0 : number;
+        EXPECT_EQ(ParseAsAtof(text), expected) << text;
+        EXPECT_EQ(std::signbit(ParseAsAtof(text)), std::signbit(expected)) << text;
         const std::string_view view(text);
         const bool isDecimal = view.find_first_of("xXiI") == std::string_view::npos;
         if (isDecimal) {
-            EXPECT_EQ(ParseLeadingDecimal(text), std::atof(text)) << text;
+            EXPECT_EQ(ParseLeadingDecimal(text), expected) << text;
         }
     }
     EXPECT_TRUE(std::isnan(ParseAsAtof("nan")));

@@ -135,6 +135,9 @@ TEST_F(PlotTest, PutsThingsWhereTheyBelong) {
 }
 
 TEST_F(PlotTest, HoldsNoTextThatAReaderWouldObey) {
+    if (IsForWindows()) {
+        GTEST_SKIP() << "Names are Unicode there.";
+    }
     const std::string evil = "<b>&\x1b[31m\xe2\x80\xae\xff";
     const std::string name = evil + std::string(150, 'x') + ".csv";
     folder.Write(name, onePoint);

@@ -68,7 +68,7 @@ void ExpectSentence(const std::string& code, const std::string& sentence) {
         }
         return lines;
     }();
-    static const std::regex path("'/[^']+'");
+    static const std::regex path("'(?:[A-Z]:)?/[^']+'");
     std::string line = code + ": " + std::regex_replace(sentence, path, "'PATH'");
     std::ranges::replace_if(
         line, [](char c) { return static_cast<unsigned char>(c) > 0x7F; }, '?');

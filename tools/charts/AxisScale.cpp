@@ -118,10 +118,11 @@ AxisScale LogarithmicScale(AxisRange range, int most, bool isExact) {
         scale.high *= 2.0;
     }
     const double decades = std::log10(scale.high / scale.low);
-    const auto step = std::max(1, static_cast<int>(std::ceil(decades / most)));
-    // A short axis would have next to no powers of ten on it.
+    const auto step = std::max(1, static_cast<int>(std::ceil(decades / most - narrowest)));
+    // A short axis would have next to no powers of ten on it. Two decades are none, however the
+    // system's functions round them.
     constexpr double shortAxis = 2.0;
-    const bool isShort = decades < shortAxis;
+    const bool isShort = decades < shortAxis - narrowest;
     const auto first = static_cast<int>(std::floor(std::log10(scale.low) + narrowest));
     for (int exponent = first; exponent <= std::log10(scale.high) + narrowest; ++exponent) {
         for (int factor = 1; factor < 10; ++factor) {

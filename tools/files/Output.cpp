@@ -68,6 +68,7 @@ public:
     }
     ~PartFile() {
         if (error_ == 0 && !isKept_) {
+            file_.Close(); // some systems keep a file that is open
             Remove(name_);
         }
     }

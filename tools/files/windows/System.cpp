@@ -162,7 +162,12 @@ std::ptrdiff_t ReadSome(int descriptor, char* to, std::size_t most) noexcept {
 }
 
 std::ptrdiff_t WriteSome(int descriptor, const char* from, std::size_t most) noexcept {
-    return ::_write(descriptor, from, static_cast<unsigned>(most));
+    const int written = ::_write(descriptor, from, static_cast<unsigned>(most));
+    if (written < 0 && errno == EINVAL) { // what the C library has no number for
+        const bool isUnread = _doserrno == ERROR_NO_DATA || _doserrno == ERROR_PIPE_NOT_CONNECTED;
+        errno = isUnread ? EPIPE : ENOSPC; // as a full disk is no error to Wine
+    }
+    return written;
 }
 
 } // namespace FluidBenchTool
