@@ -11,6 +11,8 @@
 //   rest f is below 2^k and below 2^53.
 // - f * 10^p < 2^53 * 2^63.12 < 2^117 fits. f * 10^p / 2^k < 10^p < 2^64 fits 64 bits, and so does
 //   the 10^p that rounding may make of it, which carries one into the whole part.
+// - With k < 64 what is rounded away is below 2^63, so that it fits 64 bits with the one that is
+//   added for an odd digit, and so does the half that it is held against.
 // - Where -e > 127, k is too small, but then f * 10^p / 2^k < 2^-10 rounds to zero as the right
 //   quotient does.
 //

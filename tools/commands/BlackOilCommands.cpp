@@ -150,26 +150,30 @@ constexpr RecordForm wetGasForm{&BlackOilDataRecords::GetPressure,
                                 "a record for each pressure, by rising pressure, and its rows by "
                                 "falling oil-gas ratio, as a table of wet gas"};
 
-// The same rules as the reader of keywords has.
+// By the rules that the reader of keywords has.
 bool IsInForm(const BlackOilDataRecords& records, const RecordForm& form) {
-    std::optional<std::pair<double, double>> previous; // of the first row of a record
+    struct Row {
+        double ofRecord;
+        double ofRow;
+    };
+    std::optional<Row> previous; // the first one of the record ahead
     for (std::uint64_t i = 0; i < records.GetTableSize(); ++i) {
         const auto row = [&](std::uint64_t j) {
-            return std::pair((records.*form.ofRecord)(i, j), (records.*form.ofRow)(i, j));
+            return Row{(records.*form.ofRecord)(i, j), (records.*form.ofRow)(i, j)};
         };
         const std::uint64_t rows = records.GetRecordContentSize(i);
         if (rows == 0) {
             continue;
         }
-        const auto first = row(0);
-        if (previous && (first.first <= previous->first ||
-                         (form.doRowsRise && first.second <= previous->second))) {
+        const Row first = row(0);
+        if (previous && (first.ofRecord <= previous->ofRecord ||
+                         (form.doRowsRise && first.ofRow <= previous->ofRow))) {
             return false;
         }
         previous = first;
         for (std::uint64_t j = 1; j < rows; ++j) {
-            const double step = row(j).second - row(j - 1).second;
-            if (row(j).first != first.first || (form.doRowsRise ? step <= 0.0 : step > 0.0)) {
+            const double step = row(j).ofRow - row(j - 1).ofRow;
+            if (row(j).ofRecord != first.ofRecord || (form.doRowsRise ? step <= 0.0 : step > 0.0)) {
                 return false;
             }
         }

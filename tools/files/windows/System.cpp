@@ -164,8 +164,17 @@ std::ptrdiff_t ReadSome(int descriptor, char* to, std::size_t most) noexcept {
 std::ptrdiff_t WriteSome(int descriptor, const char* from, std::size_t most) noexcept {
     const int written = ::_write(descriptor, from, static_cast<unsigned>(most));
     if (written < 0 && errno == EINVAL) { // what the C library has no number for
-        const bool isUnread = _doserrno == ERROR_NO_DATA || _doserrno == ERROR_PIPE_NOT_CONNECTED;
-        errno = isUnread ? EPIPE : ENOSPC; // as a full disk is no error to Wine
+        switch (_doserrno) {
+        case ERROR_NO_DATA:
+        case ERROR_PIPE_NOT_CONNECTED: // nobody reads on
+            errno = EPIPE;
+            break;
+        case ERROR_SUCCESS: // a part was written, and the disk is full
+            errno = ENOSPC;
+            break;
+        default:
+            break;
+        }
     }
     return written;
 }
